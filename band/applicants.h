@@ -1,0 +1,18 @@
+#pragma once
+// Applicants: one at a time, for the lowest empty slot, hired or dismissed from the office.
+
+#include "state/game.h"
+
+namespace tourvane {
+
+/// Draws a new applicant for slot `vacancy` and describes them; nothing once six have been
+/// hired or dismissed this week.
+void newapplicant(Game& g);
+
+/// HIRE: the applicant joins the band in slot `vacancy`.
+void hire(Game& g);
+
+/// DISMISS: the applicant goes away; the fourth dismissal of a week closes the panel.
+void dismiss(Game& g);
+
+}  // namespace tourvane

@@ -1,0 +1,169 @@
+#include "screens/clicks.h"
+
+#include <array>
+
+#include "band/applicants.h"
+#include "band/interviews.h"
+#include "band/roster.h"
+#include "band/training.h"
+#include "music/chart.h"
+#include "music/label.h"
+#include "music/singles.h"
+#include "music/songs.h"
+#include "screens/office.h"
+#include "screens/ui.h"
+#include "week/turn.h"
+
+namespace tourvane {
+
+namespace {
+
+/// What a control does when clicked, and when double-clicked (list boxes only).
+struct Rule {
+    std::string_view form;
+    std::string_view control;
+    void (*on_click)(Game&, int index);
+    void (*on_dblclick)(Game&);
+};
+
+template <void (*F)(Game&)>
+void plain(Game& g, int) {
+    F(g);
+}
+
+constexpr std::array kRules{
+    Rule{"Form1", "New", plain<Form1_New>, nullptr},
+    Rule{"Form1", "Label4", plain<Form1_Label4>, nullptr},
+    Rule{"main", "command6", plain<command6>, nullptr},
+    Rule{"main", "label13", plain<label13>, nullptr},
+    Rule{"main", "secret", plain<secret>, nullptr},
+    Rule{"main", "command3", plain<command3>, nullptr},
+    Rule{"main", "command1", plain<command1>, nullptr},
+    Rule{"main", "interview", plain<interview>, nullptr},
+    Rule{"main", "holiday", plain<holiday>, nullptr},
+    Rule{"main", "exitbtn", plain<exitbtn>, nullptr},
+    Rule{"main", "promote", promote, nullptr},
+    Rule{"main", "songlist", plain<songlist_click>, songlist_dblclick},
+    Rule{"main", "hire", plain<hire>, nullptr},
+    Rule{"main", "dismiss", plain<dismiss>, nullptr},
+    Rule{"main", "members", plain<members_click>, members_dblclick},
+    Rule{"main", "Command2", plain<Command2>, nullptr},
+    Rule{"messageForm", "command1", plain<memo_ok>, nullptr},
+    Rule{"Chart", "command1", plain<Chart_command1>, nullptr},
+};
+
+const Rule* find_rule(std::string_view form, std::string_view control) {
+    for (const Rule& rule : kRules)
+        if (rule.form == form && rule.control == control) return &rule;
+    return nullptr;
+}
+
+/// Calls f(form) with the typed form of that name; false if there is none.
+template <class F>
+bool with_form(Game& g, std::string_view name, F&& f) {
+    bool found = false;
+    auto visit = [&](auto& form) {
+        if (!found && name == form.name) {
+            found = true;
+            f(form);
+        }
+    };
+    Forms& fs = g.forms;
+    visit(fs.Form1);
+    visit(fs.main);
+    visit(fs.messageForm);
+    visit(fs.gig);
+    visit(fs.thenewspaper);
+    visit(fs.savefrm);
+    visit(fs.Chart);
+    return found;
+}
+
+bool is_list(const Control& c) {
+    return c.kind == ControlKind::ListBox || c.kind == ControlKind::ComboBox;
+}
+
+struct Target {
+    ClickResult problem = ClickResult::Done;
+    FormState* form = nullptr;
+    Control* control = nullptr;
+};
+
+/// Resolves FORM.CONTROL with an array index or a list row.
+Target resolve(Game& g, std::string_view form_name, std::string_view name, int index) {
+    Target t;
+    bool known_form = with_form(g, form_name, [&](auto& form) {
+        t.form = &form;
+        if (is_control_array(form, name)) {
+            t.control = find_control(form, name, index);
+            if (!t.control) t.problem = ClickResult::BadIndex;
+            return;
+        }
+        t.control = find_control(form, name, -1);
+        if (!t.control) {
+            t.problem = ClickResult::UnknownControl;
+        } else if (is_list(*t.control)) {
+            if (index >= static_cast<int>(t.control->rows.size())) t.problem = ClickResult::BadIndex;
+        } else if (index != -1) {
+            t.problem = ClickResult::BadIndex;
+        }
+    });
+    if (!known_form) t.problem = ClickResult::UnknownForm;
+    return t;
+}
+
+bool takes_clicks(const Target& t) {
+    return t.form->usable() && t.control->enabled && t.control->visible;
+}
+
+}  // namespace
+
+FormState* find_form(Game& g, std::string_view form) {
+    FormState* found = nullptr;
+    with_form(g, form, [&](auto& f) { found = &f; });
+    return found;
+}
+
+Control* find_control(Game& g, std::string_view form, std::string_view control, int index) {
+    Control* found = nullptr;
+    with_form(g, form, [&](auto& f) { found = find_control(f, control, index); });
+    return found;
+}
+
+ClickResult click(Game& g, std::string_view form, std::string_view control, int index) {
+    Target t = resolve(g, form, control, index);
+    if (t.problem != ClickResult::Done) return t.problem;
+    if (is_list(*t.control) && index < 0) return ClickResult::BadIndex;
+    if (!takes_clicks(t)) return ClickResult::Ignored;
+
+    if (is_list(*t.control)) t.control->selected = index;
+    if (t.control->kind == ControlKind::Option) {
+        // An option button marks itself and clears the others of its group.
+        with_form(g, form, [&](auto& f) {
+            f.each([&](Control& c) {
+                if (control == c.name) c.value = c.index == index;
+            });
+        });
+    }
+    if (const Rule* rule = find_rule(form, control); rule && rule->on_click)
+        rule->on_click(g, index);
+    return ClickResult::Done;
+}
+
+ClickResult dblclick(Game& g, std::string_view form, std::string_view control, int row) {
+    Target t = resolve(g, form, control, row);
+    if (t.problem != ClickResult::Done) return t.problem;
+    const Rule* rule = find_rule(form, control);
+    if (!rule || !rule->on_dblclick) return ClickResult::UnknownControl;
+    if (!takes_clicks(t)) return ClickResult::Ignored;
+    if (row >= 0) {
+        ClickResult first = click(g, form, control, row);
+        if (first != ClickResult::Done) return first;
+    } else {
+        t.control->selected = -1;
+    }
+    rule->on_dblclick(g);
+    return ClickResult::Done;
+}
+
+}  // namespace tourvane
