@@ -53,6 +53,7 @@ set(OLD_GLOB
   "/work/main/screens/clicks.cpp"
   "/work/main/screens/forms.cpp"
   "/work/main/screens/office.cpp"
+  "/work/main/screens/scripted_port.cpp"
   "/work/main/screens/ui.cpp"
   )
 if(NOT "${NEW_GLOB}" STREQUAL "${OLD_GLOB}")
