@@ -10,6 +10,7 @@
 #include "music/label.h"
 #include "music/singles.h"
 #include "music/songs.h"
+#include "saves/save_screen.h"
 #include "screens/office.h"
 #include "screens/ui.h"
 #include "week/turn.h"
@@ -34,6 +35,7 @@ void plain(Game& g, int) {
 constexpr std::array kRules{
     Rule{"Form1", "New", plain<Form1_New>, nullptr},
     Rule{"Form1", "Label4", plain<Form1_Label4>, nullptr},
+    Rule{"Form1", "load", plain<Form1_load>, nullptr},
     Rule{"main", "command6", plain<command6>, nullptr},
     Rule{"main", "label13", plain<label13>, nullptr},
     Rule{"main", "secret", plain<secret>, nullptr},
@@ -41,6 +43,7 @@ constexpr std::array kRules{
     Rule{"main", "command1", plain<command1>, nullptr},
     Rule{"main", "interview", plain<interview>, nullptr},
     Rule{"main", "holiday", plain<holiday>, nullptr},
+    Rule{"main", "command5", plain<command5>, nullptr},
     Rule{"main", "exitbtn", plain<exitbtn>, nullptr},
     Rule{"main", "promote", promote, nullptr},
     Rule{"main", "songlist", plain<songlist_click>, songlist_dblclick},
@@ -50,6 +53,9 @@ constexpr std::array kRules{
     Rule{"main", "Command2", plain<Command2>, nullptr},
     Rule{"messageForm", "command1", plain<memo_ok>, nullptr},
     Rule{"Chart", "command1", plain<Chart_command1>, nullptr},
+    Rule{"savefrm", "save", plain<savefrm_save>, nullptr},
+    Rule{"savefrm", "load", plain<savefrm_load>, nullptr},
+    Rule{"savefrm", "back", plain<savefrm_back>, nullptr},
 };
 
 const Rule* find_rule(std::string_view form, std::string_view control) {
