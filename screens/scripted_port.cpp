@@ -10,13 +10,27 @@ std::string json_quote(std::string_view text) {
     out += '"';
     for (unsigned char c : text) {
         switch (c) {
-            case '"': out += "\\\""; break;
-            case '\\': out += "\\\\"; break;
-            case '\n': out += "\\n"; break;
-            case '\r': out += "\\r"; break;
-            case '\t': out += "\\t"; break;
-            case '\b': out += "\\b"; break;
-            case '\f': out += "\\f"; break;
+            case '"':
+                out += "\\\"";
+                break;
+            case '\\':
+                out += "\\\\";
+                break;
+            case '\n':
+                out += "\\n";
+                break;
+            case '\r':
+                out += "\\r";
+                break;
+            case '\t':
+                out += "\\t";
+                break;
+            case '\b':
+                out += "\\b";
+                break;
+            case '\f':
+                out += "\\f";
+                break;
             default:
                 if (c < 0x20) {
                     char buf[8];
@@ -34,9 +48,12 @@ std::string json_quote(std::string_view text) {
 namespace {
 const char* answer_word(Answer a) {
     switch (a) {
-        case Answer::Ok: return "ok";
-        case Answer::Yes: return "yes";
-        case Answer::No: return "no";
+        case Answer::Ok:
+            return "ok";
+        case Answer::Yes:
+            return "yes";
+        case Answer::No:
+            return "no";
     }
     return "ok";
 }
@@ -72,8 +89,7 @@ std::string ScriptedPort::inputbox(std::string_view prompt, std::string_view tit
         answer = std::move(inputs_.front());
         inputs_.pop_front();
     }
-    emit("inputbox " + json_quote(title) + " " + json_quote(prompt) + " -> " +
-         json_quote(answer));
+    emit("inputbox " + json_quote(title) + " " + json_quote(prompt) + " -> " + json_quote(answer));
     return answer;
 }
 

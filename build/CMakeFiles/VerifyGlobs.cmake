@@ -14,6 +14,10 @@ endif()
 # TOURVANE_CORE_SOURCES at CMakeLists.txt:26 (file)
 file(GLOB NEW_GLOB LIST_DIRECTORIES true "/work/main/band/*.cpp")
 set(OLD_GLOB
+  "/work/main/band/applicants.cpp"
+  "/work/main/band/interviews.cpp"
+  "/work/main/band/roster.cpp"
+  "/work/main/band/training.cpp"
   )
 if(NOT "${NEW_GLOB}" STREQUAL "${OLD_GLOB}")
   message("-- GLOB mismatch!")
@@ -32,6 +36,10 @@ endif()
 # TOURVANE_CORE_SOURCES at CMakeLists.txt:26 (file)
 file(GLOB NEW_GLOB LIST_DIRECTORIES true "/work/main/music/*.cpp")
 set(OLD_GLOB
+  "/work/main/music/chart.cpp"
+  "/work/main/music/label.cpp"
+  "/work/main/music/singles.cpp"
+  "/work/main/music/songs.cpp"
   )
 if(NOT "${NEW_GLOB}" STREQUAL "${OLD_GLOB}")
   message("-- GLOB mismatch!")
@@ -73,9 +81,20 @@ if(NOT "${NEW_GLOB}" STREQUAL "${OLD_GLOB}")
   file(TOUCH_NOCREATE "/work/main/build/CMakeFiles/cmake.verify_globs")
 endif()
 
+# TOURVANE_RULE_TESTS at tests/CMakeLists.txt:5 (file)
+file(GLOB NEW_GLOB LIST_DIRECTORIES true "/work/main/tests/rules/*.cpp")
+set(OLD_GLOB
+  "/work/main/tests/rules/turn_test.cpp"
+  )
+if(NOT "${NEW_GLOB}" STREQUAL "${OLD_GLOB}")
+  message("-- GLOB mismatch!")
+  file(TOUCH_NOCREATE "/work/main/build/CMakeFiles/cmake.verify_globs")
+endif()
+
 # TOURVANE_CORE_SOURCES at CMakeLists.txt:26 (file)
 file(GLOB NEW_GLOB LIST_DIRECTORIES true "/work/main/week/*.cpp")
 set(OLD_GLOB
+  "/work/main/week/events.cpp"
   "/work/main/week/turn.cpp"
   )
 if(NOT "${NEW_GLOB}" STREQUAL "${OLD_GLOB}")
