@@ -74,6 +74,7 @@ Answer ScriptedPort::msgbox(std::string_view text, Buttons buttons, bool critica
                  (buttons == Buttons::Ok ? "ok" : "yesno") + " box\"");
         }
     }
+    if (!sink_) return answer;
     std::string line = buttons == Buttons::Ok ? "msgbox ok " : "msgbox yesno ";
     if (critical) line += "critical ";
     line += json_quote(text);
@@ -89,12 +90,14 @@ std::string ScriptedPort::inputbox(std::string_view prompt, std::string_view tit
         answer = std::move(inputs_.front());
         inputs_.pop_front();
     }
-    emit("inputbox " + json_quote(title) + " " + json_quote(prompt) + " -> " + json_quote(answer));
+    if (sink_)
+        emit("inputbox " + json_quote(title) + " " + json_quote(prompt) + " -> " +
+             json_quote(answer));
     return answer;
 }
 
 void ScriptedPort::memo_raised(std::string_view from, std::string_view text) {
-    emit("memo " + json_quote(from) + " " + json_quote(text));
+    if (sink_) emit("memo " + json_quote(from) + " " + json_quote(text));
 }
 
 }  // namespace tourvane
