@@ -1,5 +1,0 @@
-if(EXISTS "/work/main/build/tests/tourvane-tests[1]_tests.cmake")
-  include("/work/main/build/tests/tourvane-tests[1]_tests.cmake")
-else()
-  add_test(tourvane-tests_NOT_BUILT tourvane-tests_NOT_BUILT)
-endif()
