@@ -109,7 +109,8 @@ Target resolve(Game& g, std::string_view form_name, std::string_view name, int i
         if (!t.control) {
             t.problem = ClickResult::UnknownControl;
         } else if (is_list(*t.control)) {
-            if (index >= static_cast<int>(t.control->rows.size())) t.problem = ClickResult::BadIndex;
+            if (index >= static_cast<int>(t.control->rows.size()))
+                t.problem = ClickResult::BadIndex;
         } else if (index != -1) {
             t.problem = ClickResult::BadIndex;
         }
