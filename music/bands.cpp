@@ -77,6 +77,8 @@ std::optional<std::filesystem::path> loadbands_from(
     return std::nullopt;
 }
 
-void loadbands(Game& g) { loadbands_from(g, bands_search_path()); }
+void loadbands(Game& g) {
+    loadbands_from(g, bands_search_path());
+}
 
 }  // namespace tourvane

@@ -23,7 +23,9 @@ std::uint64_t get_le(const std::uint8_t* in, std::size_t n) {
     return v;
 }
 
-std::string describe_errno(int err) { return err ? std::strerror(err) : "Unknown error"; }
+std::string describe_errno(int err) {
+    return err ? std::strerror(err) : "Unknown error";
+}
 
 /// RAII for a C stream.
 struct File {
@@ -60,14 +62,17 @@ void RecordWriter::put_integer(Integer v) {
     put_le(next_record(), static_cast<std::uint16_t>(v), 2);
 }
 
-void RecordWriter::put_long(Long v) { put_le(next_record(), static_cast<std::uint32_t>(v), 4); }
+void RecordWriter::put_long(Long v) {
+    put_le(next_record(), static_cast<std::uint32_t>(v), 4);
+}
 
-void RecordWriter::put_date(Date v) { put_le(next_record(), std::bit_cast<std::uint64_t>(v), 8); }
+void RecordWriter::put_date(Date v) {
+    put_le(next_record(), std::bit_cast<std::uint64_t>(v), 8);
+}
 
 void RecordReader::take(std::uint8_t* out, std::size_t n) {
     const std::size_t start = record_ * kRecordBytes;
-    for (std::size_t i = 0; i < n; ++i)
-        out[i] = start + i < bytes_.size() ? bytes_[start + i] : 0;
+    for (std::size_t i = 0; i < n; ++i) out[i] = start + i < bytes_.size() ? bytes_[start + i] : 0;
     ++record_;
 }
 
@@ -115,7 +120,8 @@ std::optional<std::vector<std::uint8_t>> read_file(const std::filesystem::path& 
                                                    std::size_t limit) {
     File file{std::fopen(path.c_str(), "rb")};
     if (!file.f) return std::nullopt;
-    // Sized from the file's length so that a file read whole takes one read.
+    std::setvbuf(file.f, nullptr, _IONBF, 0);
+    // Sized from the file's length so that the whole file comes in one read.
     std::size_t want = 4096;
     if (std::fseek(file.f, 0, SEEK_END) == 0) {
         const long size = std::ftell(file.f);
@@ -145,6 +151,7 @@ bool replace_file(const std::filesystem::path& path, std::span<const std::uint8_
         reason = describe_errno(errno);
         return false;
     }
+    std::setvbuf(file.f, nullptr, _IONBF, 0);  // the whole buffer in one write
     errno = 0;
     const bool written = std::fwrite(bytes.data(), 1, bytes.size(), file.f) == bytes.size() &&
                          std::fflush(file.f) == 0;

@@ -27,7 +27,7 @@ inline constexpr std::size_t kMaxStringBytes = kRecordBytes - 2;
 
 /// Lays records one after another into one buffer, to be written to disk in one go.
 class RecordWriter {
-public:
+  public:
     explicit RecordWriter(std::size_t expected_records = 0) {
         buf_.reserve(expected_records * kRecordBytes);
     }
@@ -45,7 +45,7 @@ public:
     const std::vector<std::uint8_t>& bytes() const { return buf_; }
     std::vector<std::uint8_t> take() { return std::move(buf_); }
 
-private:
+  private:
     std::uint8_t* next_record();
     std::vector<std::uint8_t> buf_;
 };
@@ -54,7 +54,7 @@ private:
 /// zeros. A record that can't be trusted (a length word above 126, text running past the end
 /// of the file, a date no calendar holds) marks the whole file as damaged.
 class RecordReader {
-public:
+  public:
     explicit RecordReader(std::span<const std::uint8_t> bytes) : bytes_(bytes) {}
 
     /// Text converted to UTF-8.
@@ -70,7 +70,7 @@ public:
     /// How many records have been transferred.
     std::size_t records_read() const { return record_; }
 
-private:
+  private:
     /// Copies `n` bytes from the start of the current record (zeros past the end of the file)
     /// and moves on to the next record.
     void take(std::uint8_t* out, std::size_t n);

@@ -85,7 +85,9 @@ void transfer(Rec& r, Io& io) {
 
 }  // namespace
 
-std::filesystem::path slot_file(int slot) { return "tvsave" + std::to_string(slot) + ".tvs"; }
+std::filesystem::path slot_file(int slot) {
+    return "tvsave" + std::to_string(slot) + ".tvs";
+}
 
 std::vector<std::uint8_t> save_bytes(const Module1& r) {
     Saving io;

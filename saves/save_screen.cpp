@@ -92,8 +92,12 @@ void savefrm_load(Game& g) {
     MsgBox(g, "Game Loaded");
 }
 
-void savefrm_back(Game& g) { g.forms.savefrm.visible = false; }
+void savefrm_back(Game& g) {
+    g.forms.savefrm.visible = false;
+}
 
-void savefrm_close(Game& g) { savefrm_back(g); }
+void savefrm_close(Game& g) {
+    savefrm_back(g);
+}
 
 }  // namespace tourvane

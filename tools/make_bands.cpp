@@ -103,8 +103,8 @@ bool read_table(const char* path, RecordWriter& out) {
         ++entries;
     }
     if (entries != kEntries)
-        ok = fail(path, "holds " + std::to_string(entries) + " entries, not " +
-                            std::to_string(kEntries));
+        ok = fail(path,
+                  "holds " + std::to_string(entries) + " entries, not " + std::to_string(kEntries));
     return ok;
 }
 
