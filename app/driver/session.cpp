@@ -75,6 +75,13 @@ const char* flag(bool b) {
     return b ? "1" : "0";
 }
 
+/// NAME = VALUE, or NAME(INDEX) = VALUE for an element of an array.
+std::string field_line(const Field& f, int index) {
+    std::string line = f.name;
+    if (index >= 0) line += "(" + std::to_string(index) + ")";
+    return line + " = " + format_field(f, index);
+}
+
 }  // namespace
 
 Session::Session(std::ostream& out, std::optional<std::uint64_t> seed)
@@ -163,13 +170,8 @@ void Session::execute(const Command& c) {
             break;
         case Verb::Dump:
             for (const Field& f : fields_) {
-                if (!f.is_array()) {
-                    print(std::string(f.name) + " = " + format_field(f, -1));
-                    continue;
-                }
-                for (int i = 0; i <= f.upper; ++i)
-                    print(std::string(f.name) + "(" + std::to_string(i) +
-                          ") = " + format_field(f, i));
+                if (!f.is_array()) print(field_line(f, -1));
+                for (int i = 0; i <= f.upper; ++i) print(field_line(f, i));
             }
             break;
         case Verb::Control:
@@ -241,9 +243,7 @@ void Session::do_get(const Command& c) {
     const Field* f = find_field(fields_, c.name);
     if (!f) return error("unknown field " + shown_word(c.name));
     if (auto why = check_index(*f, c); !why.empty()) return error(why);
-    std::string line = f->name;
-    if (f->is_array()) line += "(" + std::to_string(c.index) + ")";
-    print(line + " = " + format_field(*f, c.index));
+    print(field_line(*f, c.index));
 }
 
 void Session::do_set(const Command& c) {
