@@ -1,5 +1,4 @@
 // The rival bands file: its contents, where it is found, and the rows and pool it sets up.
-#include <unistd.h>
 
 #include <fstream>
 
@@ -143,25 +142,6 @@ TEST(LoadBands, LookedForHereThenBesideTheProgramThenInTheDataFolder) {
               std::filesystem::read_symlink("/proc/self/exe").parent_path() / "bands.dat");
     EXPECT_EQ(places[2].filename(), "bands.dat");
     EXPECT_EQ(places[2].parent_path().filename(), "tourvane");
-}
-
-TEST(LoadBands, LifeOfAnExtremeRecordStaysInsideAnInteger) {
-    RecordWriter w;
-    for (int i = 0; i < kBandEntries; ++i) {
-        w.put_string("Loud");
-        w.put_integer(i == 0 ? 32767 : -5);
-        w.put_string("Forever");
-        w.put_integer(i == 0 ? 32767 : 1);
-        w.put_integer(50);
-    }
-    TempDir dir;
-    write_all("bands.dat", w.take());
-    ScriptedPort port;
-    Game g(port);
-    ASSERT_TRUE(loadbands_from(g, {"bands.dat"}));
-    EXPECT_EQ(g.rec.chartlife[20], 32767);
-    EXPECT_EQ(g.rec.chartlife[21], -1);  // the file's numbers are taken as they stand
-    EXPECT_EQ(g.rec.rivalfame[1], -5);
 }
 
 }  // namespace

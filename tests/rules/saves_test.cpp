@@ -1,6 +1,5 @@
 // Saved games: the record-file layout, the round trip, refused loads, failing saves, the save
 // and load screen, and the name checks of NEW GAME that keep names inside a record.
-#include <unistd.h>
 
 #include <cstring>
 #include <fstream>
@@ -421,19 +420,6 @@ TEST_F(InTempDir, FailingSaveKeepsTheOldSaveAndTheGame) {
               std::vector<std::string>{critical_box(
                   "The game could not be saved in slot 1 (tvsave0.tvs): Is a directory.")});
     EXPECT_FALSE(std::filesystem::exists("tvsave0.tvs.new"));
-}
-
-TEST_F(InTempDir, SaveIntoAFolderThatIsGoneSaysWhy) {
-    TestGame t;
-    t.new_game();
-    std::filesystem::current_path(dir.path().parent_path());
-    const auto gone = dir.path() / "gone";
-    std::filesystem::create_directory(gone);
-    std::filesystem::current_path(gone);
-    std::filesystem::remove(gone);
-    std::string reason;
-    EXPECT_FALSE(write_save(t.r, slot_file(0), reason));
-    EXPECT_EQ(reason, "No such file or directory");
 }
 
 // ---------------------------------------------------------------------------------------------
