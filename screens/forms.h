@@ -86,7 +86,7 @@ struct OfficeForm : FormState {
 
     /// The nine hot-spots in the order they stand in the picture's left column.
     std::array<Control*, 9> hotspots() {
-        return {&command6, &label13,   &command4, &secret, &command3,
+        return {&command6, &label13,   &command4, &secret,  &command3,
                 &command1, &interview, &holiday,  &command5};
     }
     template <class F>
@@ -94,10 +94,12 @@ struct OfficeForm : FormState {
         for (Control* c : hotspots()) f(*c);
         for (Control* c : {&txtname, &Label3, &exitbtn, &Label14}) f(*c);
         for (Control& c : promote) f(c);
-        for (Control* c : {&Label15, &songlist, &Label4, &txtapplicant, &hire, &dismiss, &Label16,
-                           &members, &Label6, &txtage, &Label5, &txtsex, &Label7, &txtinstrument,
-                           &Label9, &txttalent, &Label8, &txtcharisma, &Label10, &txtattitude,
-                           &Label11, &txtlooks, &Command2, &Label19, &txtcash, &Label20, &txtdate})
+        for (Control* c :
+             {&Label15, &songlist,      &Label4,  &txtapplicant, &hire,     &dismiss,
+              &Label16, &members,       &Label6,  &txtage,       &Label5,   &txtsex,
+              &Label7,  &txtinstrument, &Label9,  &txttalent,    &Label8,   &txtcharisma,
+              &Label10, &txtattitude,   &Label11, &txtlooks,     &Command2, &Label19,
+              &txtcash, &Label20,       &txtdate})
             f(*c);
     }
 };
@@ -125,8 +127,8 @@ struct GigForm : FormState {
     void each(F&& f) {
         f(Label16);
         for (Control& c : location) f(c);
-        for (Control* c : {&Label4, &txtcapacity, &Label3, &txtticket, &Label5, &txthire,
-                           &command1, &Label2, &Label1, &Combo1})
+        for (Control* c : {&Label4, &txtcapacity, &Label3, &txtticket, &Label5, &txthire, &command1,
+                           &Label2, &Label1, &Combo1})
             f(*c);
         for (Control& c : tracks) f(c);
         for (Control* c : {&command3, &command4, &Command2}) f(*c);

@@ -44,11 +44,12 @@ void Form1_New(Game& g) {
     g.forms.Form1.visible = false;
 }
 
-void Form1_Label4(Game& g) { end_program(g); }
+void Form1_Label4(Game& g) {
+    end_program(g);
+}
 
 void exitbtn(Game& g) {
-    if (MsgBox(g, "Are you sure you want to quit?", Buttons::YesNo) == Answer::Yes)
-        end_program(g);
+    if (MsgBox(g, "Are you sure you want to quit?", Buttons::YesNo) == Answer::Yes) end_program(g);
 }
 
 void promote(Game& g, int index) {

@@ -10,13 +10,27 @@ std::string json_quote(std::string_view text) {
     out += '"';
     for (unsigned char c : text) {
         switch (c) {
-            case '"': out += "\\\""; break;
-            case '\\': out += "\\\\"; break;
-            case '\n': out += "\\n"; break;
-            case '\r': out += "\\r"; break;
-            case '\t': out += "\\t"; break;
-            case '\b': out += "\\b"; break;
-            case '\f': out += "\\f"; break;
+            case '"':
+                out += "\\\"";
+                break;
+            case '\\':
+                out += "\\\\";
+                break;
+            case '\n':
+                out += "\\n";
+                break;
+            case '\r':
+                out += "\\r";
+                break;
+            case '\t':
+                out += "\\t";
+                break;
+            case '\b':
+                out += "\\b";
+                break;
+            case '\f':
+                out += "\\f";
+                break;
             default:
                 if (c < 0x20) {
                     char buf[8];
@@ -34,9 +48,12 @@ std::string json_quote(std::string_view text) {
 namespace {
 const char* answer_word(Answer a) {
     switch (a) {
-        case Answer::Ok: return "ok";
-        case Answer::Yes: return "yes";
-        case Answer::No: return "no";
+        case Answer::Ok:
+            return "ok";
+        case Answer::Yes:
+            return "yes";
+        case Answer::No:
+            return "no";
     }
     return "ok";
 }
@@ -57,6 +74,7 @@ Answer ScriptedPort::msgbox(std::string_view text, Buttons buttons, bool critica
                  (buttons == Buttons::Ok ? "ok" : "yesno") + " box\"");
         }
     }
+    if (!sink_) return answer;
     std::string line = buttons == Buttons::Ok ? "msgbox ok " : "msgbox yesno ";
     if (critical) line += "critical ";
     line += json_quote(text);
@@ -72,13 +90,14 @@ std::string ScriptedPort::inputbox(std::string_view prompt, std::string_view tit
         answer = std::move(inputs_.front());
         inputs_.pop_front();
     }
-    emit("inputbox " + json_quote(title) + " " + json_quote(prompt) + " -> " +
-         json_quote(answer));
+    if (sink_)
+        emit("inputbox " + json_quote(title) + " " + json_quote(prompt) + " -> " +
+             json_quote(answer));
     return answer;
 }
 
 void ScriptedPort::memo_raised(std::string_view from, std::string_view text) {
-    emit("memo " + json_quote(from) + " " + json_quote(text));
+    if (sink_) emit("memo " + json_quote(from) + " " + json_quote(text));
 }
 
 }  // namespace tourvane

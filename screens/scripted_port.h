@@ -15,7 +15,7 @@ namespace tourvane {
 std::string json_quote(std::string_view text);
 
 class ScriptedPort : public UiPort {
-public:
+  public:
     /// Receives one transcript line per box, memo or mismatched answer (no newline).
     using Sink = std::function<void(const std::string&)>;
 
@@ -33,7 +33,7 @@ public:
     std::string inputbox(std::string_view prompt, std::string_view title) override;
     void memo_raised(std::string_view from, std::string_view text) override;
 
-private:
+  private:
     void emit(const std::string& line) {
         if (sink_) sink_(line);
     }

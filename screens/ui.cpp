@@ -86,7 +86,9 @@ std::string format_date(double day_count) {
     return buf;
 }
 
-std::string format_cash(long long pounds) { return "£ " + std::to_string(pounds); }
+std::string format_cash(long long pounds) {
+    return "£ " + std::to_string(pounds);
+}
 
 void update(Game& g) {
     Module1& r = g.rec;

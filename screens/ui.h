@@ -9,8 +9,7 @@
 namespace tourvane {
 
 /// Shows a box and waits for the answer.
-Answer MsgBox(Game& g, std::string_view text, Buttons buttons = Buttons::Ok,
-              bool critical = false);
+Answer MsgBox(Game& g, std::string_view text, Buttons buttons = Buttons::Ok, bool critical = false);
 
 /// Asks for a line of text; Cancel gives the empty text.
 std::string InputBox(Game& g, std::string_view prompt, std::string_view title);

@@ -11,7 +11,7 @@ enum class Buttons { Ok, YesNo };
 enum class Answer { Ok, Yes, No };
 
 class UiPort {
-public:
+  public:
     virtual ~UiPort() = default;
 
     /// A box titled "Tourvane" that waits for OK, or for Yes or No.

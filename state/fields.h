@@ -15,8 +15,8 @@ enum class FieldType { String, Integer, Long, Boolean, Date };
 struct Field {
     const char* name;
     FieldType type;
-    void* data;     ///< the field itself, or element 0 of an array
-    int upper;      ///< the last index of an array, -1 for a plain field
+    void* data;  ///< the field itself, or element 0 of an array
+    int upper;   ///< the last index of an array, -1 for a plain field
 
     bool is_array() const { return upper >= 0; }
     template <class T>

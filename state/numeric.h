@@ -68,7 +68,11 @@ constexpr void add(T& field, std::int64_t delta) {
     field = saturate<T>(static_cast<std::int64_t>(field) + delta);
 }
 
-inline constexpr Boolean to_boolean(bool b) { return b ? kTrue : kFalse; }
-inline constexpr bool is_true(Boolean b) { return b == kTrue; }
+inline constexpr Boolean to_boolean(bool b) {
+    return b ? kTrue : kFalse;
+}
+inline constexpr bool is_true(Boolean b) {
+    return b == kTrue;
+}
 
 }  // namespace tourvane

@@ -117,8 +117,22 @@ struct GigFields {
     Integer gigscore = 0;
 };
 
+/// True when `i` indexes an element of the array (saved games and scripts can hold any value
+/// in a field that the rules use as an index).
+template <class T, std::size_t N>
+constexpr bool in_bounds(const std::array<T, N>&, long long i) {
+    return i >= 0 && i < static_cast<long long>(N);
+}
+
+/// True when `slot` is one of the member slots 1 to 4.
+constexpr bool is_member_slot(long long slot) {
+    return slot >= 1 && slot <= kMemberSlots;
+}
+
 /// True when member slot `slot` holds nobody.
-inline bool is_vacant(const Module1& r, int slot) { return r.membername[slot] == kVacant; }
+inline bool is_vacant(const Module1& r, int slot) {
+    return r.membername[slot] == kVacant;
+}
 
 /// True when none of the slots 1 to 4 is vacant.
 inline bool band_is_full(const Module1& r) {

@@ -18,8 +18,7 @@ void Rnd::reseed(std::uint64_t seed) {
 }
 
 void Rnd::reseed_from_clock() {
-    reseed(static_cast<std::uint64_t>(
-        std::chrono::system_clock::now().time_since_epoch().count()));
+    reseed(static_cast<std::uint64_t>(std::chrono::system_clock::now().time_since_epoch().count()));
 }
 
 double Rnd::take_queued() {

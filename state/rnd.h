@@ -10,7 +10,7 @@
 namespace tourvane {
 
 class Rnd {
-public:
+  public:
     explicit Rnd(std::uint64_t seed = 1) { reseed(seed); }
 
     /// Restarts the fallback generator from `seed`. The queue is kept.
@@ -37,7 +37,7 @@ public:
         next_queued_ = 0;
     }
 
-private:
+  private:
     double take_queued();
     double fallback() {
         // xoshiro256+: the top 53 bits make a uniform double in [0, 1).

@@ -7,32 +7,32 @@ namespace {
 constexpr const char* kInstruments[4] = {"Vocals", "Guitar", "Bass", "Drums"};
 
 constexpr const char* kMaleNames[30] = {
-    "Aaron ",  "Adam ", "Ben ",    "Bryan ",   "Brian ", "Chris ", "Carl ",   "Dave ",
-    "Darren ", "Steven ", "Richard ", "Gary ", "Harry ", "Ian ",  "Josh ",   "Mike ",
-    "Matt ",   "Neil ", "Paul ",   "Peter ",   "Ryan ",  "Jack ",  "Gareth ", "James ",
-    "Jason ",  "Keith ", "Lewis ", "Dylan ",   "Reece ", "John "};
+    "Aaron ",  "Adam ",   "Ben ",     "Bryan ", "Brian ", "Chris ", "Carl ",   "Dave ",
+    "Darren ", "Steven ", "Richard ", "Gary ",  "Harry ", "Ian ",   "Josh ",   "Mike ",
+    "Matt ",   "Neil ",   "Paul ",    "Peter ", "Ryan ",  "Jack ",  "Gareth ", "James ",
+    "Jason ",  "Keith ",  "Lewis ",   "Dylan ", "Reece ", "John "};
 
 constexpr const char* kFemaleNames[30] = {
-    "Anne ",    "Beth ",   "Joanne ", "Jessica ", "Hannah ", "Hayley ",  "Jen ",   "Sarah ",
-    "Lindsay ", "Emily ",  "Emma ",   "Charlotte ", "Maria ", "Rachel ", "Monica ", "Kaye ",
-    "Mia ",     "Alison ", "Mary ",   "Alice ",   "Becky ",  "Annette ", "Louise ", "Sandra ",
-    "Tracy ",   "Georgia ", "Linda ", "Rhia ",    "Brittany ", "Nicole "};
+    "Anne ",    "Beth ",    "Joanne ", "Jessica ",   "Hannah ",   "Hayley ",  "Jen ",    "Sarah ",
+    "Lindsay ", "Emily ",   "Emma ",   "Charlotte ", "Maria ",    "Rachel ",  "Monica ", "Kaye ",
+    "Mia ",     "Alison ",  "Mary ",   "Alice ",     "Becky ",    "Annette ", "Louise ", "Sandra ",
+    "Tracy ",   "Georgia ", "Linda ",  "Rhia ",      "Brittany ", "Nicole "};
 
 constexpr const char* kSurnames[30] = {
-    "Johnson",  "Carpenter", "Smith",  "Jones",   "Del Ray",  "Thompson", "Richards", "Stevens",
-    "Jacobs",   "Hargreaves", "Hill",  "Smythe",  "Wright",   "Marshall", "Peacock",  "Edwards",
-    "Jackson",  "Miller",    "Young",  "Francis", "McGrath",  "Cook",     "Miles",    "Hewitt",
-    "Warren",   "De Bourg",  "Casey",  "Masters", "Peterson", "Lee"};
+    "Johnson", "Carpenter",  "Smith", "Jones",   "Del Ray",  "Thompson", "Richards", "Stevens",
+    "Jacobs",  "Hargreaves", "Hill",  "Smythe",  "Wright",   "Marshall", "Peacock",  "Edwards",
+    "Jackson", "Miller",     "Young", "Francis", "McGrath",  "Cook",     "Miles",    "Hewitt",
+    "Warren",  "De Bourg",   "Casey", "Masters", "Peterson", "Lee"};
 
-constexpr const char* kTitleFirst[20] = {
-    "Wild",    "Extremes of", "Troubled", "Blue",  "Cold",   "Hot",    "Wicked",
-    "Kickin'", "Twisted",     "Midnight", "Silent", "Funny", "Wierd",  "Red",
-    "Morning", "Silver",      "World",    "Ugly",  "Black",  "Shocked"};
+constexpr const char* kTitleFirst[20] = {"Wild",   "Extremes of", "Troubled", "Blue",    "Cold",
+                                         "Hot",    "Wicked",      "Kickin'",  "Twisted", "Midnight",
+                                         "Silent", "Funny",       "Wierd",    "Red",     "Morning",
+                                         "Silver", "World",       "Ugly",     "Black",   "Shocked"};
 
 constexpr const char* kTitleSecond[20] = {
-    " Vibes", " Velvet", " Metal", " Beats", " Terror", " Love", " Emotions",
-    " Grooves", " Music", " Bass", " Voltage", " Aggression", " Bliss", " Wonder",
-    " Pain", " Anger", " Serenity", " Funk", " Party", " Feelings"};
+    " Vibes",   " Velvet", " Metal",    " Beats",   " Terror",     " Love",    " Emotions",
+    " Grooves", " Music",  " Bass",     " Voltage", " Aggression", " Bliss",   " Wonder",
+    " Pain",    " Anger",  " Serenity", " Funk",    " Party",      " Feelings"};
 
 struct Venue {
     const char* name;
@@ -40,10 +40,10 @@ struct Venue {
     Integer ticket;
 };
 constexpr Venue kVenueTable[5] = {{"The Rose and Crown", 10, 2},
-                              {"The Queens Head", 60, 3},
-                              {"Town Hall", 200, 4},
-                              {"Nitro Nightclub", 260, 6},
-                              {"The Plaza Music Hall", 310, 7}};
+                                  {"The Queens Head", 60, 3},
+                                  {"Town Hall", 200, 4},
+                                  {"Nitro Nightclub", 260, 6},
+                                  {"The Plaza Music Hall", 310, 7}};
 
 }  // namespace
 

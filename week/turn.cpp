@@ -102,35 +102,35 @@ void command6(Game& g) {
     Module1& r = g.rec;
     OfficeForm& office = g.forms.main;
 
-    contract_review(g);                         // 1
-    practice_prompt(g);                         // 2
-    if (!charge_promotion(g)) return;           // 3, early ends A and B
-    if (is_true(r.signed_)) cap_hype(g);        // 4
+    contract_review(g);                               // 1
+    practice_prompt(g);                               // 2
+    if (!charge_promotion(g)) return;                 // 3, early ends A and B
+    if (is_true(r.signed_)) cap_hype(g);              // 4
     for (int slot = 1; slot <= kMemberSlots; ++slot)  // 5
         if (r.memberill[slot] > 0) add(r.memberill[slot], -1);
-    morale(g);                                  // 6
+    morale(g);                                   // 6
     if (r.songweeks < 10) add(r.songweeks, -1);  // 7
     if (r.songweeks <= 0) {
         makesong(g);
         r.songweeks = 10;
     }
-    r.interviewkind = 0;                        // 8
+    r.interviewkind = 0;  // 8
     office.interview.enabled = false;
     g.main.applicantsseen = 0;
     r.tiredness = r.tiredness > 0 ? static_cast<Integer>(r.tiredness - 1) : 0;  // 9
-    r.gamedate += 7;                            // 10
-    if (!pay_wages(g)) return;                  // 11, the end of the game
-    for (int v = 1; v <= kVenues; ++v)          // 12
+    r.gamedate += 7;                                                            // 10
+    if (!pay_wages(g)) return;          // 11, the end of the game
+    for (int v = 1; v <= kVenues; ++v)  // 12
         r.venueopen[v] = to_boolean(Int(g.rnd() * 2) + 1 == 1);
-    if (!demo_verdict(g)) return;               // 13, early end C
-    singles_phase(g);                           // 14
+    if (!demo_verdict(g)) return;  // 13, early end C
+    singles_phase(g);              // 14
     hype_step(g);
-    office.command4.enabled = true;             // 15
-    events(g);                                  // 16
-    update(g);                                  // 17
-    add(r.popularity, -1);                      // 18
-    chart_step(g);                              // 19
-    office.secret.enabled = true;               // 20
+    office.command4.enabled = true;  // 15
+    events(g);                       // 16
+    update(g);                       // 17
+    add(r.popularity, -1);           // 18
+    chart_step(g);                   // 19
+    office.secret.enabled = true;    // 20
 }
 
 }  // namespace tourvane
