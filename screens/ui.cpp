@@ -1,7 +1,6 @@
 #include "screens/ui.h"
 
 #include <cmath>
-#include <cstdio>
 
 #include "band/applicants.h"
 #include "screens/office.h"
@@ -81,9 +80,16 @@ std::string format_date(double day_count) {
     const long long day = doy - (153 * mp + 2) / 5 + 1;
     const long long month = mp < 10 ? mp + 3 : mp - 9;
     const long long year = yoe + era * 400 + (month <= 2);
-    char buf[80];
-    std::snprintf(buf, sizeof buf, "%02lld/%02lld/%04lld", day, month, year);
-    return buf;
+    std::string text = "00/00/0000";
+    auto put = [&](std::size_t at, long long value, int digits) {
+        for (int i = digits - 1; i >= 0; --i, value /= 10)
+            text[at + static_cast<std::size_t>(i)] = static_cast<char>('0' + value % 10);
+    };
+    put(0, day, 2);
+    put(3, month, 2);
+    if (year < 0 || year > 9999) return text.substr(0, 6) + std::to_string(year);
+    put(6, year, 4);
+    return text;
 }
 
 std::string format_cash(long long pounds) {

@@ -31,11 +31,13 @@ constexpr T saturate(std::int64_t v) {
 
 /// Int(): rounds down, for any double (NaN gives 0, out-of-range values clamp).
 inline std::int64_t Int(double v) {
-    if (!(v == v)) return 0;
-    double f = std::floor(v);
-    if (f >= 9.2e18) return std::numeric_limits<std::int64_t>::max();
-    if (f <= -9.2e18) return std::numeric_limits<std::int64_t>::min();
-    return static_cast<std::int64_t>(f);
+    if (v > -9.2e18 && v < 9.2e18) {                  // false for NaN too
+        const auto i = static_cast<std::int64_t>(v);  // truncates toward zero
+        return i - (v < static_cast<double>(i));
+    }
+    if (v >= 9.2e18) return std::numeric_limits<std::int64_t>::max();
+    if (v <= -9.2e18) return std::numeric_limits<std::int64_t>::min();
+    return 0;
 }
 
 /// Rounds to the nearest whole number, half to even, as storing a non-whole number does.
@@ -43,9 +45,8 @@ inline std::int64_t round_half_even(double v) {
     if (!(v == v)) return 0;
     if (v >= 9.2e18) return std::numeric_limits<std::int64_t>::max();
     if (v <= -9.2e18) return std::numeric_limits<std::int64_t>::min();
-    double f = std::floor(v);
-    double diff = v - f;
-    auto i = static_cast<std::int64_t>(f);
+    const std::int64_t i = Int(v);
+    const double diff = v - static_cast<double>(i);
     if (diff > 0.5) return i + 1;
     if (diff < 0.5) return i;
     return (i % 2 == 0) ? i : i + 1;

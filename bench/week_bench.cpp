@@ -1,0 +1,87 @@
+// How fast the rules run: full weeks of a signed band with ten singles on sale, and the chart.
+#include <benchmark/benchmark.h>
+
+#include "music/chart.h"
+#include "screens/office.h"
+#include "screens/scripted_port.h"
+#include "week/turn.h"
+
+namespace tourvane {
+namespace {
+
+/// A signed band of four with ten singles on sale, a full chart and money that never runs out.
+struct SignedBand {
+    ScriptedPort port;  // answers every box at once: OK, and No to the practice question
+    Game g{port};
+
+    SignedBand() {
+        load_main(g, 7);
+        Module1& r = g.rec;
+        r.bandname = "The Wasps";
+        r.playername = "Sam";
+        const char* names[] = {"", "Ann Vox", "Bob Axe", "Cy Low", "Di Kit"};
+        for (int s = 1; s <= 4; ++s) {
+            r.membername[s] = names[s];
+            r.membertalent[s] = 5;
+            r.membercreativity[s] = 3;
+            r.memberattitude[s] = 2;  // misbehaves now and then
+            r.memberhappy[s] = 7;
+            r.membercharisma[s] = r.memberlooks[s] = 6;
+        }
+        for (int k = 1; k <= 10; ++k) {
+            r.songname[k] = "Song " + std::to_string(k);
+            r.songquality[k] = 40;
+            r.released[k] = kTrue;
+            r.singledemand[k] = 1200;
+        }
+        r.songcount = r.nextsong = 10;
+        r.signed_ = kTrue;
+        r.promotion = 4;
+        for (int row = kFirstRivalRow; row <= kChartRows; ++row) {
+            r.chartband[row] = r.rivalname[row - kFirstRivalRow] = "Rival " + std::to_string(row);
+            r.charttitle[row] = "Hit " + std::to_string(row);
+            r.chartquality[row] = 50;
+            r.chartdemand[row] = 100;
+            r.chartlife[row] = 250;
+        }
+    }
+
+    /// Keeps the band in business between weeks, as a player's gigs and releases would.
+    void refill() {
+        Module1& r = g.rec;
+        r.cash = 1'000'000;
+        r.popularity = 2000;
+        r.signed_ = kTrue;
+        for (int k = 1; k <= 10; ++k)
+            if (r.singledemand[k] < 100) r.singledemand[k] = 1200;
+        g.memos.clear();
+        g.forms.main.enabled = true;
+    }
+};
+
+void BM_FullWeek(benchmark::State& state) {
+    SignedBand band;
+    for (auto _ : state) {
+        band.refill();
+        command6(band.g);
+        benchmark::DoNotOptimize(band.g.rec.cash);
+    }
+    state.SetItemsProcessed(state.iterations());
+}
+BENCHMARK(BM_FullWeek);
+
+void BM_ChartRanking(benchmark::State& state) {
+    SignedBand band;
+    for (int i = 0; i < 4; ++i) chart_step(band.g);
+    for (auto _ : state) {
+        rank_chart(band.g);
+        benchmark::DoNotOptimize(band.g.rec.chartplace[1]);
+    }
+    state.SetItemsProcessed(state.iterations());
+}
+BENCHMARK(BM_ChartRanking);
+
+}  // namespace
+}  // namespace tourvane
+
+BENCHMARK_MAIN();
