@@ -6,6 +6,9 @@
 #include "band/interviews.h"
 #include "band/roster.h"
 #include "band/training.h"
+#include "gigs/booking.h"
+#include "gigs/performance.h"
+#include "gigs/report.h"
 #include "music/chart.h"
 #include "music/label.h"
 #include "music/singles.h"
@@ -38,6 +41,7 @@ constexpr std::array kRules{
     Rule{"Form1", "load", plain<Form1_load>, nullptr},
     Rule{"main", "command6", plain<command6>, nullptr},
     Rule{"main", "label13", plain<label13>, nullptr},
+    Rule{"main", "command4", plain<command4>, nullptr},
     Rule{"main", "secret", plain<secret>, nullptr},
     Rule{"main", "command3", plain<command3>, nullptr},
     Rule{"main", "command1", plain<command1>, nullptr},
@@ -52,6 +56,13 @@ constexpr std::array kRules{
     Rule{"main", "members", plain<members_click>, members_dblclick},
     Rule{"main", "Command2", plain<Command2>, nullptr},
     Rule{"messageForm", "command1", plain<memo_ok>, nullptr},
+    Rule{"gig", "location", gig_location, nullptr},
+    Rule{"gig", "command1", plain<gig_command1>, nullptr},
+    Rule{"gig", "Combo1", plain<gig_Combo1>, nullptr},
+    Rule{"gig", "command3", plain<gig_command3>, nullptr},
+    Rule{"gig", "Command2", plain<gig_Command2>, nullptr},
+    Rule{"gig", "command4", plain<gig_command4>, nullptr},
+    Rule{"thenewspaper", "Label2", plain<thenewspaper_Label2>, nullptr},
     Rule{"Chart", "command1", plain<Chart_command1>, nullptr},
     Rule{"savefrm", "save", plain<savefrm_save>, nullptr},
     Rule{"savefrm", "load", plain<savefrm_load>, nullptr},
