@@ -57,7 +57,9 @@ void load_gig(Game& g) {
     const Module1& r = g.rec;
     GigForm& f = g.forms.gig;
     f.loaded = true;
+    // Refilling the list clears it first, and a cleared list has no row selected.
     f.Combo1.rows.clear();
+    f.Combo1.selected = -1;
     const int songs = r.songcount < kSongSlots ? r.songcount : kSongSlots;
     for (int i = 1; i <= songs; ++i) f.Combo1.rows.push_back(r.songname[i]);
     for (int i = 1; i <= kVenues; ++i) f.location[i - 1].enabled = is_true(r.venueopen[i]);

@@ -6,6 +6,7 @@
 #include <string>
 #include <vector>
 
+#include "rules/temp_dir.h"
 #include "rules/test_game.h"
 
 namespace tourvane {
@@ -147,6 +148,24 @@ TEST_F(GigsTest, TwoSongsAreTooFewAndComeAfterTheBandTests) {
 }
 
 // --- venue and application --------------------------------------------------------------
+
+TEST_F(GigsTest, ReopeningAfterALoadLeavesNoSongPicked) {
+    // The save screen stays up beside the gig screen, so a smaller game can be loaded under
+    // an open gig and Play Gig clicked again: the refilled list has no row picked.
+    testing::TempDir dir;
+    ASSERT_EQ(click(g, "main", "command5"), ClickResult::Done);
+    ASSERT_EQ(click(g, "savefrm", "save"), ClickResult::Done);  // three songs in slot 1
+    r.songcount = r.nextsong = 5;
+    ASSERT_EQ(click(g, "main", "command5"), ClickResult::Done);
+    open_and_book(0);
+    add_tracks({4});
+    ASSERT_EQ(g.forms.gig.Combo1.selected, 4);
+    ASSERT_EQ(click(g, "savefrm", "load"), ClickResult::Done);
+    ASSERT_EQ(r.songcount, 3);
+    ASSERT_EQ(click(g, "main", "command4"), ClickResult::Done);
+    EXPECT_EQ(g.forms.gig.Combo1.rows.size(), 3u);
+    EXPECT_EQ(g.forms.gig.Combo1.selected, -1);
+}
 
 TEST_F(GigsTest, VenueShowsCapacityTicketAndHireCost) {
     ASSERT_EQ(click(g, "main", "command4"), ClickResult::Done);
