@@ -1,7 +1,13 @@
-// How fast the rules run: full weeks of a signed band with ten singles on sale, and the chart.
+// How fast the rules run: full weeks of a signed band with ten singles on sale, the chart,
+// and saving and loading a game.
 #include <benchmark/benchmark.h>
+#include <unistd.h>
+
+#include <filesystem>
+#include <string>
 
 #include "music/chart.h"
+#include "saves/save_file.h"
 #include "screens/office.h"
 #include "screens/scripted_port.h"
 #include "week/turn.h"
@@ -80,6 +86,47 @@ void BM_ChartRanking(benchmark::State& state) {
     state.SetItemsProcessed(state.iterations());
 }
 BENCHMARK(BM_ChartRanking);
+
+/// A folder of its own for the save files, removed afterwards.
+struct ScratchFolder {
+    std::filesystem::path path =
+        std::filesystem::temp_directory_path() / ("tourvane-bench-" + std::to_string(::getpid()));
+    ScratchFolder() { std::filesystem::create_directories(path); }
+    ~ScratchFolder() {
+        std::error_code ec;
+        std::filesystem::remove_all(path, ec);
+    }
+};
+
+/// Save Game as the save screen does it: the whole file written beside the old one and
+/// renamed over it.
+void BM_Save(benchmark::State& state) {
+    SignedBand band;
+    ScratchFolder folder;
+    const std::filesystem::path file = folder.path / slot_file(0);
+    std::string reason;
+    for (auto _ : state) {
+        if (!write_save(band.g.rec, file, reason)) state.SkipWithError(reason.c_str());
+    }
+    state.SetItemsProcessed(state.iterations());
+}
+BENCHMARK(BM_Save)->UseRealTime();
+
+/// Load Game as the save screen does it: the file read and checked into a fresh record.
+void BM_Load(benchmark::State& state) {
+    SignedBand band;
+    ScratchFolder folder;
+    const std::filesystem::path file = folder.path / slot_file(0);
+    std::string reason;
+    if (!write_save(band.g.rec, file, reason)) state.SkipWithError(reason.c_str());
+    for (auto _ : state) {
+        auto loaded = read_save(file, band.g.rec);
+        if (!loaded) state.SkipWithError("the save did not load");
+        benchmark::DoNotOptimize(loaded);
+    }
+    state.SetItemsProcessed(state.iterations());
+}
+BENCHMARK(BM_Load)->UseRealTime();
 
 }  // namespace
 }  // namespace tourvane

@@ -1,0 +1,45 @@
+// Fuzzes the tourvane-script command parser and runner: each line of the input is read as
+// a command and run on one game, as the driver runs a script.
+
+#include <cstdint>
+#include <sstream>
+#include <streambuf>
+#include <string_view>
+
+#include "app/driver/command.h"
+#include "app/driver/session.h"
+#include "saves/save_file.h"
+#include "tests/fuzz/fuzz_support.h"
+
+namespace {
+
+/// Swallows the transcript.
+class Discard : public std::streambuf {
+  protected:
+    int overflow(int c) override { return c; }
+    std::streamsize xsputn(const char*, std::streamsize n) override { return n; }
+};
+
+}  // namespace
+
+extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
+    using namespace tourvane;
+    fuzz::enter_scratch_folder();
+    for (int slot = 0; slot < kSaveSlots; ++slot) std::filesystem::remove(slot_file(slot));
+
+    Discard sink;
+    std::ostream out(&sink);
+    driver::Session session(out, 1);
+    std::string_view text(reinterpret_cast<const char*>(data), size);
+    while (!text.empty()) {
+        const std::size_t end = text.find('\n');
+        const std::string_view line = text.substr(0, end);
+        text = end == std::string_view::npos ? std::string_view() : text.substr(end + 1);
+
+        const driver::ParsedLine parsed = driver::parse_line(line);
+        FUZZ_CHECK(parsed.kind != driver::ParsedLine::Kind::Error || !parsed.error.empty());
+        if (!session.run_line(line)) break;
+    }
+    session.finish();
+    return 0;
+}
