@@ -119,7 +119,7 @@ TEST(Session, AnAnswerThatDoesNotFitTheBoxCountsAsAnError) {
     r.lines({"answer yes"});
     EXPECT_EQ(r.lines({"click Form1.New"}),
               "inputbox \"NEW BAND\" \"Please enter the name of the Band:\" -> \"\"\n"
-              "error \"answer yes does not fit a ok box\"\n"
+              "error \"answer yes does not fit an ok box\"\n"
               "msgbox ok critical \"Invalid Band Name.\" -> ok\n");
     EXPECT_TRUE(r.s.had_error());
 }
