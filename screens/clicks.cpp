@@ -6,10 +6,14 @@
 #include "band/interviews.h"
 #include "band/roster.h"
 #include "band/training.h"
+#include "gigs/booking.h"
+#include "gigs/performance.h"
+#include "gigs/report.h"
 #include "music/chart.h"
 #include "music/label.h"
 #include "music/singles.h"
 #include "music/songs.h"
+#include "saves/save_screen.h"
 #include "screens/office.h"
 #include "screens/ui.h"
 #include "week/turn.h"
@@ -34,13 +38,16 @@ void plain(Game& g, int) {
 constexpr std::array kRules{
     Rule{"Form1", "New", plain<Form1_New>, nullptr},
     Rule{"Form1", "Label4", plain<Form1_Label4>, nullptr},
+    Rule{"Form1", "load", plain<Form1_load>, nullptr},
     Rule{"main", "command6", plain<command6>, nullptr},
     Rule{"main", "label13", plain<label13>, nullptr},
+    Rule{"main", "command4", plain<command4>, nullptr},
     Rule{"main", "secret", plain<secret>, nullptr},
     Rule{"main", "command3", plain<command3>, nullptr},
     Rule{"main", "command1", plain<command1>, nullptr},
     Rule{"main", "interview", plain<interview>, nullptr},
     Rule{"main", "holiday", plain<holiday>, nullptr},
+    Rule{"main", "command5", plain<command5>, nullptr},
     Rule{"main", "exitbtn", plain<exitbtn>, nullptr},
     Rule{"main", "promote", promote, nullptr},
     Rule{"main", "songlist", plain<songlist_click>, songlist_dblclick},
@@ -49,7 +56,17 @@ constexpr std::array kRules{
     Rule{"main", "members", plain<members_click>, members_dblclick},
     Rule{"main", "Command2", plain<Command2>, nullptr},
     Rule{"messageForm", "command1", plain<memo_ok>, nullptr},
+    Rule{"gig", "location", gig_location, nullptr},
+    Rule{"gig", "command1", plain<gig_command1>, nullptr},
+    Rule{"gig", "Combo1", plain<gig_Combo1>, nullptr},
+    Rule{"gig", "command3", plain<gig_command3>, nullptr},
+    Rule{"gig", "Command2", plain<gig_Command2>, nullptr},
+    Rule{"gig", "command4", plain<gig_command4>, nullptr},
+    Rule{"thenewspaper", "Label2", plain<thenewspaper_Label2>, nullptr},
     Rule{"Chart", "command1", plain<Chart_command1>, nullptr},
+    Rule{"savefrm", "save", plain<savefrm_save>, nullptr},
+    Rule{"savefrm", "load", plain<savefrm_load>, nullptr},
+    Rule{"savefrm", "back", plain<savefrm_back>, nullptr},
 };
 
 const Rule* find_rule(std::string_view form, std::string_view control) {

@@ -1,14 +1,38 @@
 #include "screens/office.h"
 
 #include "band/roster.h"
+#include "saves/cp1252.h"
+#include "saves/record_file.h"
+#include "saves/save_file.h"
+#include "saves/save_screen.h"
 #include "screens/ui.h"
 #include "state/world.h"
 
 namespace tourvane {
 
+namespace {
+
+/// A typed name must fit a save file's record: Windows-1252 letters, at most 126 of them.
+/// A refused name is cleared, as an empty one would be.
+bool name_fits_save(Game& g, std::string& name) {
+    const char* refusal = nullptr;
+    if (!fits_cp1252(name))
+        refusal = "Names can only use Western European letters.";
+    else if (cp1252_size(name) > kMaxStringBytes)
+        refusal = "Names can be at most 126 characters.";
+    if (!refusal) return true;
+    name.clear();
+    MsgBox(g, refusal, Buttons::Ok, true);
+    return false;
+}
+
+}  // namespace
+
 void load_Form1(Game& g) {
     TitleForm& f = g.forms.Form1;
     f.loaded = f.visible = true;
+    read_slot_names(g);
+    reset_savefrm(g);
 }
 
 void load_main(Game& g, std::optional<std::uint64_t> seed) {
@@ -33,11 +57,13 @@ void Form1_New(Game& g) {
         MsgBox(g, "Invalid Band Name.", Buttons::Ok, true);
         return;
     }
+    if (!name_fits_save(g, r.bandname)) return;
     r.playername = InputBox(g, "Please enter your name:", "PLAYER NAME");
     if (r.playername.empty()) {
         MsgBox(g, "Invalid Player Name.", Buttons::Ok, true);
         return;
     }
+    if (!name_fits_save(g, r.playername)) return;
     update(g);
     listupdate(g);
     g.forms.main.visible = true;

@@ -70,8 +70,8 @@ Answer ScriptedPort::msgbox(std::string_view text, Buttons buttons, bool critica
             answer = queued;
         } else {
             ++mismatches_;
-            emit(std::string("error \"answer ") + answer_word(queued) + " does not fit a " +
-                 (buttons == Buttons::Ok ? "ok" : "yesno") + " box\"");
+            emit(std::string("error \"answer ") + answer_word(queued) + " does not fit " +
+                 (buttons == Buttons::Ok ? "an ok" : "a yesno") + " box\"");
         }
     }
     if (!sink_) return answer;

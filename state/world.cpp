@@ -1,5 +1,7 @@
 #include "state/world.h"
 
+#include "music/bands.h"
+
 namespace tourvane {
 
 namespace {
@@ -67,6 +69,7 @@ void newgamesetup(Game& g) {
     Module1& r = g.rec;
     loadsongwords(g);
     loadvenues(g);
+    loadbands(g);
     r.cash = 3000;
     r.gamedate = kStartDate;
     for (int slot = 1; slot <= kMemberSlots; ++slot) r.membername[slot] = kVacant;

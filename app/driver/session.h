@@ -1,0 +1,69 @@
+#pragma once
+// The script runner: one game played from script lines, printing the transcript.
+
+#include <cstdint>
+#include <iosfwd>
+#include <memory>
+#include <optional>
+#include <string>
+#include <string_view>
+#include <vector>
+
+#include "app/driver/command.h"
+#include "screens/scripted_port.h"
+#include "state/fields.h"
+#include "state/game.h"
+
+namespace tourvane::driver {
+
+class Session {
+  public:
+    /// A game that prints its transcript to `out`. `seed` seeds the fallback draws; without it
+    /// they are seeded from the clock, as the game does.
+    Session(std::ostream& out, std::optional<std::uint64_t> seed);
+    Session(const Session&) = delete;
+    Session& operator=(const Session&) = delete;
+
+    /// Runs one line of a script. Returns false once the program has ended (after printing
+    /// `end`): no further line is read.
+    bool run_line(std::string_view line);
+
+    /// Finishes the script: runs the start-up if no command has needed it yet.
+    void finish();
+
+    /// True when any `error` line has been printed, by a command or by a box that met a
+    /// queued answer that didn't fit it.
+    bool had_error() const { return errors_ > 0 || port_.mismatches() > 0; }
+
+    bool ended() const { return game_->ended; }
+    bool started() const { return started_; }
+    Game& game() { return *game_; }
+
+  private:
+    void print(const std::string& line);
+    void error(const std::string& why);
+    void start();
+    void execute(const Command& c);
+    void do_click(const Command& c, bool dbl);
+    void do_get(const Command& c);
+    void do_set(const Command& c);
+    void do_control(const Command& c);
+    void do_form(const Command& c);
+    void do_call(const Command& c);
+    void acknowledge_memos();
+
+    std::ostream& out_;
+    std::optional<std::uint64_t> seed_;
+    ScriptedPort port_;
+    std::unique_ptr<Game> game_;
+    bool started_ = false;
+    bool automemo_ = true;
+    int errors_ = 0;
+    std::vector<Field> fields_;
+};
+
+/// Plays a whole script from `in`, printing to `out`. Returns the exit status: 0, or 1 when
+/// any error line was printed.
+int run_script(std::istream& in, std::ostream& out, std::optional<std::uint64_t> seed);
+
+}  // namespace tourvane::driver
