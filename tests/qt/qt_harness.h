@@ -3,6 +3,7 @@
 // by the game's own Qt port and handed here instead of waiting for a person.
 
 #include <QAbstractButton>
+#include <QComboBox>
 #include <QInputDialog>
 #include <QLabel>
 #include <QListWidget>
@@ -13,6 +14,7 @@
 #include <optional>
 #include <vector>
 
+#include "music/songs.h"
 #include "screens/office.h"
 #include "screens/qt/game_windows.h"
 #include "screens/qt/qt_port.h"
@@ -88,6 +90,37 @@ class Harness {
         texts.push_back(player);
         click("Form1", "New");
         boxes.clear();
+    }
+
+    /// A game some weeks in: a full band, three songs, a member picked and promotion bought.
+    void game_under_way() {
+        new_game("The Wasps", "Sam");
+        for (int k = 0; k < 4; ++k) click("main", "hire");
+        const char* songs[] = {"", "Paper Sting", "Neon Rain", "Velvet Static"};
+        for (int i = 1; i <= 3; ++i) g.rec.songname[i] = songs[i], g.rec.songquality[i] = 40 * i;
+        g.rec.songcount = 3;
+        updatesonglist(g);
+        windows->refresh();
+        click_row("main", "members", 1);
+        click("main", "promote(1)");
+    }
+
+    /// Opens the booking screen from the office, with every venue but the nightclub open.
+    void open_gig() {
+        for (int v = 1; v <= kVenues; ++v) g.rec.venueopen[v] = v == 4 ? 0 : -1;
+        g.rec.popularity = 120;
+        click("main", "command4");
+    }
+
+    /// Moves through the drop-down list with the arrow keys to `row`; each song passed is a
+    /// click.
+    void pick_track(int row) {
+        auto* songs = as<QComboBox>("gig", "Combo1");
+        QVERIFY(songs && songs->isEnabled());
+        songs->setFocus();
+        for (int step = 0; step < 20 && songs->currentIndex() != row; ++step)
+            QTest::keyClick(songs, songs->currentIndex() < row ? Qt::Key_Down : Qt::Key_Up);
+        QCOMPARE(songs->currentIndex(), row);
     }
 
     QString text(const char* form, const char* key) const {

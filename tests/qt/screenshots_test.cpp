@@ -5,7 +5,6 @@
 #include <QSet>
 #include <QtTest>
 
-#include "music/songs.h"
 #include "qt_harness.h"
 #include "screens/ui.h"
 
@@ -25,20 +24,6 @@ void shoot(tourvane::FormView* view, const char* file) {
     QVERIFY(image.save(QString(TOURVANE_SCREENSHOT_DIR) + "/" + file));
 }
 
-/// A game some weeks in: a full band, three songs, a member picked and promotion bought.
-void game_under_way(Harness& h) {
-    h.new_game("The Wasps", "Sam");
-    for (int k = 0; k < 4; ++k) h.click("main", "hire");
-    tourvane::Module1& r = h.g.rec;
-    const char* songs[] = {"", "Paper Sting", "Neon Rain", "Velvet Static"};
-    for (int i = 1; i <= 3; ++i) r.songname[i] = songs[i], r.songquality[i] = 40 * i;
-    r.songcount = 3;
-    tourvane::updatesonglist(h.g);
-    h.windows->refresh();
-    h.click_row("main", "members", 1);
-    h.click("main", "promote(1)");
-}
-
 }  // namespace
 
 class ScreenshotsTest : public QObject {
@@ -52,7 +37,7 @@ class ScreenshotsTest : public QObject {
 
     void office() {
         Harness h;
-        game_under_way(h);
+        h.game_under_way();
         tourvane::FormView* main = h.view("main");
         QVERIFY(main->isVisible());
         main->activateWindow();
@@ -63,7 +48,7 @@ class ScreenshotsTest : public QObject {
 
     void memo() {
         Harness h;
-        game_under_way(h);
+        h.game_under_way();
         tourvane::message(h.g, "The band are playing well together. Keep them rehearsing!", "Dave");
         h.windows->refresh();
         QVERIFY(h.view("messageForm")->isVisible());
@@ -71,57 +56,40 @@ class ScreenshotsTest : public QObject {
     }
 
     void gig() {
-        // The booking screen as it stands part-way through building a set list.
+        // The booking screen part-way through a set list, reached by the player's clicks.
         Harness h;
-        game_under_way(h);
-        tourvane::GigForm& gig = h.g.forms.gig;
-        gig.loaded = gig.visible = true;
-        h.g.forms.main.visible = false;
-        for (int k = 0; k < 5; ++k) gig.location[k].enabled = k != 3;
-        gig.location[1].value = true;
-        gig.txtcapacity.caption = "240";
-        gig.txtticket.caption = "£3";
-        gig.txthire.caption = "£240";
-        gig.command1.enabled = true;
-        gig.Combo1.enabled = true;
-        gig.Combo1.rows = {"Paper Sting", "Neon Rain", "Velvet Static"};
-        gig.tracks[0].caption = "Neon Rain";
-        gig.tracks[1].caption = "Paper Sting";
-        gig.command3.enabled = true;
-        h.windows->refresh();
+        h.game_under_way();
+        h.open_gig();
+        h.click("gig", "location(1)");
+        h.click("gig", "command1");
+        h.pick_track(1);  // the first two songs, as the arrow passes them
         QVERIFY(h.view("gig")->isVisible());
         shoot(h.view("gig"), "gig.png");
     }
 
     void newspaper() {
         Harness h;
-        game_under_way(h);
-        tourvane::NewspaperForm& news = h.g.forms.thenewspaper;
-        news.loaded = news.visible = true;
-        news.txtnews.caption =
-            "The Wasps played a pretty good gig last night, although many agreed they are far "
-            "off the finished article. The best song of the gig was Neon Rain which really "
-            "fired up the crowd.";
-        news.txtattend.caption = "212";
-        news.txtprofit.caption = "£396";
-        h.windows->refresh();
+        h.game_under_way();
+        h.open_gig();
+        h.click("gig", "location(1)");
+        h.click("gig", "command1");
+        h.pick_track(2);
+        h.click("gig", "command4");
+        QVERIFY(h.view("thenewspaper")->isVisible());
         shoot(h.view("thenewspaper"), "thenewspaper.png");
     }
 
     void files() {
         Harness h;
-        game_under_way(h);
-        tourvane::SaveForm& files = h.g.forms.savefrm;
-        files.loaded = files.visible = true;
-        files.saveslot[0].caption = "The Wasps";
-        files.saveslot[0].value = true;
-        h.windows->refresh();
+        h.game_under_way();
+        h.click("main", "command5");
+        QVERIFY(h.view("savefrm")->isVisible());
         shoot(h.view("savefrm"), "savefrm.png");
     }
 
     void chart() {
         Harness h;
-        game_under_way(h);
+        h.game_under_way();
         tourvane::Module1& r = h.g.rec;
         const char* bands[] = {"Hollow Crown", "The Lanterns", "Mirror Factory",
                                "Saint Jude",   "Copper Moth",  "The Fallow",

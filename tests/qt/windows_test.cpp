@@ -260,6 +260,41 @@ class WindowsTest : public QObject {
                  QString::fromStdString(tourvane::format_date(tourvane::kStartDate + 7)));
     }
 
+    void aGigFromBookingToReport() {
+        Harness h;
+        h.game_under_way();
+        h.open_gig();
+        QVERIFY(h.view("gig")->isVisible());
+        QVERIFY(!h.view("main")->isVisible());
+        QVERIFY(!h.widget("gig", "location(3)")->isEnabled());  // the nightclub is shut
+        QVERIFY(QTest::qWaitForWindowActive(h.view("gig")));    // it took the keys on opening
+        QTest::keyClick(h.view("gig"), Qt::Key_Escape);         // BACK
+        QVERIFY(!h.view("gig")->isVisible());
+        QVERIFY(h.view("main")->isVisible());
+
+        h.open_gig();
+        h.click("gig", "location(1)");
+        QVERIFY(h.as<QRadioButton>("gig", "location(1)")->isChecked());
+        QCOMPARE(h.text("gig", "txtcapacity"), QString("240"));
+        h.buttons = {QMessageBox::Ok};
+        h.click("gig", "command1");
+        QCOMPARE(h.boxes.back().text, QString("We would be delighted for you to come and play!"));
+        h.pick_track(2);
+        QCOMPARE(h.text("gig", "tracks(2)"), QString("3. Velvet Static"));
+        h.click("gig", "command4");
+        QVERIFY(!h.view("gig")->isVisible());
+        QVERIFY(!h.view("main")->isVisible());
+        QVERIFY(h.view("thenewspaper")->isVisible());
+        QVERIFY(h.text("thenewspaper", "txtnews").contains("The Wasps"));
+
+        h.click("thenewspaper", "Label2");
+        QVERIFY(!h.view("thenewspaper")->isVisible());
+        QVERIFY(h.view("main")->isVisible());
+        // One gig a week: the button is greyed until the next week.
+        QVERIFY(!h.widget("main", "command4")->isEnabled());
+        QVERIFY(!lamp_lit(lamp_of(h.view("main")->grab().toImage(), h.g.forms.main.command4)));
+    }
+
     void quitAsksAndYesEnds() {
         Harness h;
         h.new_game();
