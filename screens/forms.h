@@ -57,6 +57,8 @@ struct FormState {
     bool loaded = false;
     bool visible = false;
     bool enabled = true;
+    /// Counts the requests to bring the form's open window in front of the others.
+    unsigned forward_requests = 0;
 
     /// Shown and taking clicks.
     bool usable() const { return loaded && visible && enabled; }

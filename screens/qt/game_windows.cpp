@@ -114,9 +114,13 @@ void GameWindows::forward(FormView* view, const Control* control, int index, boo
 
 void GameWindows::refresh() {
     for (auto& v : views_) v->refresh();
-    for (auto& v : views_) {
-        FormView* view = v.get();
+    forward_seen_.resize(views_.size(), 0);
+    for (std::size_t i = 0; i < views_.size(); ++i) {
+        FormView* view = views_[i].get();
         const bool wanted = view->form().loaded && view->form().visible && !g_.ended;
+        const bool forward = view->form().forward_requests != forward_seen_[i];
+        forward_seen_[i] = view->form().forward_requests;
+        if (wanted && view->isVisible() && forward) bring_forward(view);
         if (wanted && !view->isVisible()) {
             show_view(view);
         } else if (!wanted && view->isVisible()) {

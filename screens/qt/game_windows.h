@@ -45,8 +45,9 @@ class GameWindows : public QObject {
 
     Game& g_;
     std::vector<std::unique_ptr<FormView>> views_;
-    std::vector<FormView*> shown_;   ///< windows on show, in the order they were opened
-    std::vector<FormView*> placed_;  ///< windows that stay where the player left them
+    std::vector<FormView*> shown_;        ///< windows on show, in the order they were opened
+    std::vector<FormView*> placed_;       ///< windows that stay where the player left them
+    std::vector<unsigned> forward_seen_;  ///< per view, the form's forward requests handled
     bool ended_ = false;
 };
 

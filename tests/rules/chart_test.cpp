@@ -205,6 +205,7 @@ TEST_F(ChartScreen, OpenScreenIsASnapshotUntilOk) {
     open();
     t.r.chartsales[1] = t.r.chartsales[2] = 5000;
     open();  // brought forward only
+    EXPECT_EQ(t.g.forms.Chart.forward_requests, 1u);
     EXPECT_EQ(line(1).caption, shows(70));
     EXPECT_EQ(t.r.chartplace[1], 70);
     EXPECT_EQ(t.r.chartsales[1], 5000);
