@@ -5,8 +5,6 @@
 
 namespace tourvane {
 
-namespace {
-
 const char* talent_word(int talent) {
     if (talent < 2) return "terrible ";
     if (talent < 4) return "poor ";
@@ -14,6 +12,8 @@ const char* talent_word(int talent) {
     if (talent < 8) return "good ";
     return "excellent ";
 }
+
+namespace {
 
 const char* looks_phrase(int looks) {
     if (looks < 2) return "looks very ugly!";

@@ -5,6 +5,9 @@
 
 namespace tourvane {
 
+/// The word the applicant panel uses for a level of talent, from "terrible " to "excellent ".
+const char* talent_word(int talent);
+
 /// Draws a new applicant for slot `vacancy` and describes them; nothing once six have been
 /// hired or dismissed this week.
 void newapplicant(Game& g);

@@ -83,7 +83,10 @@ void load_Chart(Game& g) {
 
 void secret(Game& g) {
     ChartForm& chart = g.forms.Chart;
-    if (!chart.loaded) load_Chart(g);
+    if (chart.loaded)
+        ++chart.forward_requests;  // already open: only brought forward, not ranked again
+    else
+        load_Chart(g);
     chart.visible = true;
 }
 

@@ -43,16 +43,21 @@ void Form1_load(Game& g) {
     f.load.pos.left = 88;
 }
 
-void load_savefrm(Game& g) {
+void reset_savefrm(Game& g) {
     SaveForm& f = g.forms.savefrm;
-    f.loaded = true;
+    unload(f);
     for (int i = 0; i < kSaveSlots; ++i)
         if (!g.rec.slotname[i].empty()) f.saveslot[i].caption = g.rec.slotname[i];
     f.saveslot[0].value = true;
 }
 
+void load_savefrm(Game& g) {
+    reset_savefrm(g);
+    g.forms.savefrm.loaded = true;
+}
+
 void unload_savefrm(Game& g) {
-    unload(g.forms.savefrm);
+    reset_savefrm(g);
     g.forms.main.visible = true;
 }
 

@@ -12,6 +12,10 @@ void command5(Game& g);
 /// LOAD GAME on the title screen: opens the screen with Load alone, moved to the middle.
 void Form1_load(Game& g);
 
+/// Puts the unloaded screen's controls as its next load will start them: slot names as
+/// captions, the top slot chosen.
+void reset_savefrm(Game& g);
+
 /// The screen's load: slots that hold a save show its band name; the top slot is chosen.
 void load_savefrm(Game& g);
 

@@ -57,6 +57,8 @@ struct FormState {
     bool loaded = false;
     bool visible = false;
     bool enabled = true;
+    /// Counts the requests to bring the form's open window in front of the others.
+    unsigned forward_requests = 0;
 
     /// Shown and taking clicks.
     bool usable() const { return loaded && visible && enabled; }
@@ -193,6 +195,19 @@ struct Forms {
         f(Chart);
     }
 };
+
+/// Calls f(form) with the typed form of that name; false if there is none.
+template <class F>
+bool with_form(Forms& forms, std::string_view name, F&& f) {
+    bool found = false;
+    forms.each_form([&](auto& form) {
+        if (!found && name == form.name) {
+            found = true;
+            f(form);
+        }
+    });
+    return found;
+}
 
 /// Finds a control by its name and index (-1 for a single control); nullptr if none.
 template <class FormT>

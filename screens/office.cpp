@@ -4,6 +4,7 @@
 #include "saves/cp1252.h"
 #include "saves/record_file.h"
 #include "saves/save_file.h"
+#include "saves/save_screen.h"
 #include "screens/ui.h"
 #include "state/world.h"
 
@@ -31,6 +32,7 @@ void load_Form1(Game& g) {
     TitleForm& f = g.forms.Form1;
     f.loaded = f.visible = true;
     read_slot_names(g);
+    reset_savefrm(g);
 }
 
 void load_main(Game& g, std::optional<std::uint64_t> seed) {

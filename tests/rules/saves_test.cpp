@@ -448,6 +448,9 @@ TEST_F(InTempDir, SaveFromTheOfficeEndsOnTheOfficeWithGameSaved) {
     // ...and show the band from the next start on.
     TestGame next;
     EXPECT_EQ(next.r.slotname[1], "The Wasps");
+    // Before it opens, the screen already reads as its load will show it.
+    EXPECT_FALSE(next.g.forms.savefrm.loaded);
+    EXPECT_EQ(next.g.forms.savefrm.saveslot[1].caption, "The Wasps");
     click(next.g, "Form1", "load");
     EXPECT_EQ(next.g.forms.savefrm.saveslot[1].caption, "The Wasps");
     for (int i : {0, 2, 3}) EXPECT_EQ(next.g.forms.savefrm.saveslot[i].caption, "GAME SLOT 1");

@@ -263,10 +263,10 @@ TEST_F(FullBandTurn, WalkOutCanCarryALaterMemberWithIt) {
     t.r.popularity = 10;
     t.no();
     t.pick(1, 5);  // slot 1 walks out
-    // the applicant drawn by update after the removal
-    for (int i = 0; i < 10; ++i) t.draws({0.0});
+    // the applicant drawn by update after the removal: nine draws
+    for (int i = 0; i < 9; ++i) t.draws({0.0});
     t.pick(1, 5);  // slot 3 walks out too
-    for (int i = 0; i < 10; ++i) t.draws({0.0});
+    for (int i = 0; i < 9; ++i) t.draws({0.0});
     command6(t.g);
     EXPECT_EQ(t.r.membername[1], "None");
     EXPECT_EQ(t.r.membername[3], "None");
