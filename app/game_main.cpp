@@ -3,6 +3,10 @@
 #include <QApplication>
 #include <QIcon>
 #include <QStyleFactory>
+#include <cstring>
+#include <memory>
+
+#include "app/startup_probe.h"
 
 #include "screens/office.h"
 #include "screens/qt/game_windows.h"
@@ -11,9 +15,11 @@
 #include "state/game.h"
 
 int main(int argc, char** argv) {
+    const bool measure_startup = argc > 1 && std::strcmp(argv[1], "--measure-startup") == 0;
     QApplication app(argc, argv);
     QApplication::setApplicationName("Tourvane");
     QApplication::setApplicationDisplayName("Tourvane");
+    QApplication::setDesktopFileName("io.github.tourvane.Tourvane");
     QApplication::setStyle(QStyleFactory::create("Fusion"));
     QApplication::setWindowIcon(QIcon(tourvane::program_icon()));
     // The windows come and go as the game says; only the game's own end quits.
@@ -25,6 +31,8 @@ int main(int argc, char** argv) {
     tourvane::GameWindows windows(game);
     QObject::connect(&windows, &tourvane::GameWindows::ended, &app, &QApplication::quit,
                      Qt::QueuedConnection);
+    std::unique_ptr<tourvane::StartupProbe> probe;
+    if (measure_startup) probe = std::make_unique<tourvane::StartupProbe>(windows.view("Form1"));
     windows.refresh();
     return QApplication::exec();
 }

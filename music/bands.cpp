@@ -57,6 +57,11 @@ std::vector<std::filesystem::path> bands_search_path() {
     std::error_code ec;
     const std::filesystem::path exe = std::filesystem::read_symlink("/proc/self/exe", ec);
     if (!ec) places.push_back(exe.parent_path() / "bands.dat");
+#ifdef TOURVANE_DATADIR_FROM_BIN
+    if (!ec)
+        places.push_back(
+            (exe.parent_path() / TOURVANE_DATADIR_FROM_BIN / "bands.dat").lexically_normal());
+#endif
 #ifdef TOURVANE_DATADIR
     places.push_back(std::filesystem::path(TOURVANE_DATADIR) / "bands.dat");
 #endif

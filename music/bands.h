@@ -36,7 +36,7 @@ std::optional<RivalTable> parse_bands(std::span<const std::uint8_t> bytes);
 std::span<const std::uint8_t> builtin_bands();
 
 /// Where bands.dat is looked for, in order: the working directory, beside the program, and
-/// the installed data folder.
+/// the installed data folder, first as it lies from the program and then by its full path.
 std::vector<std::filesystem::path> bands_search_path();
 
 /// Sets up the rival rows and the pool from the first whole file among `candidates`, or from

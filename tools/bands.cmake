@@ -18,7 +18,12 @@ add_custom_command(
   VERBATIM)
 target_sources(tourvane_core PRIVATE ${TOURVANE_BANDS_BUILTIN})
 
-# The installed copy is the last place the game looks.
+# The installed copy is the last place the game looks: first where it lies from the program
+# (so that an installed tree can be moved, or packaged for another prefix), then where it was
+# installed.
+file(RELATIVE_PATH TOURVANE_DATADIR_FROM_BIN ${CMAKE_INSTALL_FULL_BINDIR}
+     ${CMAKE_INSTALL_FULL_DATADIR}/tourvane)
 set_property(SOURCE music/bands.cpp APPEND PROPERTY COMPILE_DEFINITIONS
+             TOURVANE_DATADIR_FROM_BIN="${TOURVANE_DATADIR_FROM_BIN}"
              TOURVANE_DATADIR="${CMAKE_INSTALL_FULL_DATADIR}/tourvane")
 install(FILES ${TOURVANE_BANDS_DAT} DESTINATION ${CMAKE_INSTALL_DATADIR}/tourvane)

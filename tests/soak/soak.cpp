@@ -106,14 +106,7 @@ void offer(FormT& form, bool thrifty, std::vector<Choice>& out) {
 /// Every click a person could make now.
 std::vector<Choice> usable_controls(Game& g, bool thrifty) {
     std::vector<Choice> out;
-    Forms& fs = g.forms;
-    offer(fs.Form1, thrifty, out);
-    offer(fs.main, thrifty, out);
-    offer(fs.messageForm, thrifty, out);
-    offer(fs.gig, thrifty, out);
-    offer(fs.thenewspaper, thrifty, out);
-    offer(fs.savefrm, thrifty, out);
-    offer(fs.Chart, thrifty, out);
+    g.forms.each_form([&](auto& form) { offer(form, thrifty, out); });
     return out;
 }
 
