@@ -10,93 +10,67 @@
 
 using tourvane::testing::Harness;
 
-namespace {
-
-/// Saves the screen's picture and checks that it holds more than a few flat colours.
-void shoot(tourvane::FormView* view, const char* file) {
-    QDir().mkpath(TOURVANE_SCREENSHOT_DIR);
-    const QImage image = view->grab().toImage();
-    QCOMPARE(image.size(), view->size());
-    QSet<QRgb> colours;
-    for (int y = 0; y < image.height(); y += 3)
-        for (int x = 0; x < image.width(); x += 3) colours.insert(image.pixel(x, y));
-    QVERIFY2(colours.size() > 40, file);
-    QVERIFY(image.save(QString(TOURVANE_SCREENSHOT_DIR) + "/" + file));
-}
-
-}  // namespace
-
 class ScreenshotsTest : public QObject {
     Q_OBJECT
 
+    /// Saves the screen's picture and checks that it holds more than a few flat colours.
+    static void shoot(Harness& h, const char* form) {
+        tourvane::FormView* view = h.view(form);
+        QVERIFY2(view->isVisible(), form);
+        QDir().mkpath(TOURVANE_SCREENSHOT_DIR);
+        const QImage image = view->grab().toImage();
+        QSet<QRgb> colours;
+        for (int y = 0; y < image.height(); y += 3)
+            for (int x = 0; x < image.width(); x += 3) colours.insert(image.pixel(x, y));
+        QVERIFY2(colours.size() > 40, form);
+        QVERIFY(image.save(QString(TOURVANE_SCREENSHOT_DIR) + "/" + form + ".png"));
+    }
+
+    /// Books the second venue and picks songs up to `row` of the list, as a player would.
+    static void book(Harness& h, int row) {
+        h.open_gig();
+        h.click("gig", "location(1)");
+        h.click("gig", "command1");
+        h.pick_track(row);
+    }
+
   private slots:
-    void title() {
+    void titleOfficeAndMemo() {
         Harness h;
-        shoot(h.view("Form1"), "Form1.png");
-    }
-
-    void office() {
-        Harness h;
+        shoot(h, "Form1");
         h.game_under_way();
-        tourvane::FormView* main = h.view("main");
-        QVERIFY(main->isVisible());
-        main->activateWindow();
-        QVERIFY(QTest::qWaitForWindowActive(main));
+        h.view("main")->activateWindow();
+        QVERIFY(QTest::qWaitForWindowActive(h.view("main")));
         h.widget("main", "command6")->setFocus(Qt::TabFocusReason);
-        shoot(main, "main.png");
-    }
-
-    void memo() {
-        Harness h;
-        h.game_under_way();
+        shoot(h, "main");
         tourvane::message(h.g, "The band are playing well together. Keep them rehearsing!", "Dave");
         h.windows->refresh();
-        QVERIFY(h.view("messageForm")->isVisible());
-        shoot(h.view("messageForm"), "messageForm.png");
+        shoot(h, "messageForm");
     }
 
-    void gig() {
-        // The booking screen part-way through a set list, reached by the player's clicks.
+    void gigNewspaperAndFiles() {
         Harness h;
         h.game_under_way();
-        h.open_gig();
-        h.click("gig", "location(1)");
-        h.click("gig", "command1");
-        h.pick_track(1);  // the first two songs, as the arrow passes them
-        QVERIFY(h.view("gig")->isVisible());
-        shoot(h.view("gig"), "gig.png");
-    }
-
-    void newspaper() {
-        Harness h;
-        h.game_under_way();
-        h.open_gig();
-        h.click("gig", "location(1)");
-        h.click("gig", "command1");
+        book(h, 1);  // part-way through a set list
+        shoot(h, "gig");
         h.pick_track(2);
         h.click("gig", "command4");
-        QVERIFY(h.view("thenewspaper")->isVisible());
-        shoot(h.view("thenewspaper"), "thenewspaper.png");
-    }
-
-    void files() {
-        Harness h;
-        h.game_under_way();
+        shoot(h, "thenewspaper");
+        h.click("thenewspaper", "Label2");
         h.click("main", "command5");
-        QVERIFY(h.view("savefrm")->isVisible());
-        shoot(h.view("savefrm"), "savefrm.png");
+        shoot(h, "savefrm");
     }
 
     void chart() {
         Harness h;
         h.game_under_way();
-        tourvane::Module1& r = h.g.rec;
         const char* bands[] = {"Hollow Crown", "The Lanterns", "Mirror Factory",
                                "Saint Jude",   "Copper Moth",  "The Fallow",
                                "Kite Lines",   "Brass Owls",   "Lowtide"};
         const char* titles[] = {"Glass Houses", "Ferris Wheel",  "Every Other Monday",
                                 "Undertow",     "Radio Silence", "Small Hours",
                                 "Paper Planes", "Cold Shoulder", "Driftwood"};
+        tourvane::Module1& r = h.g.rec;
         for (int k = 0; k < 9; ++k) {
             const int row = tourvane::kFirstRivalRow + k;
             r.chartband[row] = bands[k];
@@ -109,8 +83,7 @@ class ScreenshotsTest : public QObject {
         h.g.forms.main.secret.enabled = true;
         h.windows->refresh();
         h.click("main", "secret");
-        QVERIFY(h.view("Chart")->isVisible());
-        shoot(h.view("Chart"), "Chart.png");
+        shoot(h, "Chart");
     }
 };
 
