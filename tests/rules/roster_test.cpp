@@ -8,55 +8,51 @@ namespace {
 
 using testing::Lines;
 using testing::memo;
+using testing::str;
 using testing::yesno;
 
 class Roster : public ::testing::Test, protected testing::TestGame {
   protected:
     OfficeForm& f = g.forms.main;
     void SetUp() override {
-        new_game();
-        full_band();
+        new_game().full_band();
         listupdate(g);
         update(g);
     }
 };
 
 TEST_F(Roster, ListClosesGapsAndARowFillsThePanel) {
-    EXPECT_EQ(dblclick(g, "main", "members"), ClickResult::Done);  // nobody picked yet
+    dblclick(g, "main", "members");  // nobody picked yet
     EXPECT_EQ(take(), Lines{testing::okbox("Please select a band member")});
     r.membername[2] = "None";
     put(3, "Cy Low", {.talent = 4, .charisma = 6, .attitude = 7, .looks = 8, .sex = "Female"});
     listupdate(g);
     EXPECT_EQ(f.members.rows, (Lines{"Ann Vox", "Cy Low", "Di Kit"}));
     EXPECT_FALSE(f.Command2.enabled);
-    EXPECT_EQ(click(g, "main", "members", 1), ClickResult::Done);
-    EXPECT_EQ(g.main.selectedmember, 3);
-    EXPECT_TRUE(f.Command2.enabled);
-    std::string panel;
-    for (Control* c : {&f.txtage, &f.txtsex, &f.txtinstrument, &f.txttalent, &f.txtcharisma,
-                       &f.txtattitude, &f.txtlooks})
-        panel += c->caption + " ";
-    EXPECT_EQ(panel, "20 Female Bass 4 6 7 8 ");
+    click(g, "main", "members", 1);
+    EXPECT_EQ(str(g.main.selectedmember, f.Command2.enabled, f.txtage.caption, f.txtsex.caption,
+                  f.txtinstrument.caption, f.txttalent.caption, f.txtcharisma.caption,
+                  f.txtattitude.caption, f.txtlooks.caption),
+              "3 1 20 Female Bass 4 6 7 8");
 }
 
 TEST_F(Roster, StatusMemoHasHappinessFrictionAndIllness) {
+    const std::string content = "Bob Axe is content.  The other band members seem to get on OK ";
+    const std::string quite = "Bob Axe is quite happy.  The other band members just about tolerate";
     const struct {
         int happy, friction, ill;
         const char* sex;
-        const char* text;
+        std::string text;
     } cases[] = {
         {2, 2, 0, "Male",
          "Bob Axe is unhappy. The other members of the band get on with him very well."},
         {3, 0, 1, "Female",
          " The other members of the band get on with her very well. Bob Axe is ill at the moment. "
          "She should be fit again in 1 weeks."},
-        {4, 3, 0, "Male",
-         "Bob Axe is content.  The other band members seem to get on OK with him."},
-        {6, 4, 0, "Male",
-         "Bob Axe is content.  The other band members seem to get on OK with him."},
-        {7, 5, 0, "0", "Bob Axe is quite happy.  The other band members just about tolerate her."},
-        {8, 6, 0, "Male",
-         "Bob Axe is quite happy.  The other band members just about tolerate him."},
+        {4, 3, 0, "Male", content + "with him."},
+        {6, 4, 0, "Male", content + "with him."},
+        {7, 5, 0, "0", quite + " her."},
+        {8, 6, 0, "Male", quite + " him."},
         {9, 7, 10, "Male",
          "Bob Axe is very happy.  The rest of the band really don't get on with him. Bob Axe is "
          "ill at the moment. He should be fit again in 10 weeks."},
@@ -66,7 +62,7 @@ TEST_F(Roster, StatusMemoHasHappinessFrictionAndIllness) {
         r.memberfriction[2] = static_cast<Integer>(c.friction);
         r.memberill[2] = static_cast<Integer>(c.ill);
         r.membersex[2] = c.sex;
-        EXPECT_EQ(dblclick(g, "main", "members", 1), ClickResult::Done);
+        dblclick(g, "main", "members", 1);
         EXPECT_EQ(memos(), (Lines{memo("Dave", c.text)})) << c.happy;
         ok_memos();
     }
@@ -77,8 +73,7 @@ TEST_F(Roster, StatusMemoHasHappinessFrictionAndIllness) {
 TEST_F(Roster, SackedMemberWithFrictionLiftsTheOthersAndLeavesTheSlotHalfKept) {
     put(2, "Bob Axe", {.talent = 3, .charisma = 6, .attitude = 9, .looks = 5, .creativity = 2});
     set_happy(9, 4, 5, 10);
-    r.memberfriction[2] = 2;
-    r.memberill[2] = 2;
+    r.memberfriction[2] = r.memberill[2] = 2;
     r.practice[2] = 3;
     r.popularity = 100;
     click(g, "main", "members", 1);
@@ -90,17 +85,16 @@ TEST_F(Roster, SackedMemberWithFrictionLiftsTheOthersAndLeavesTheSlotHalfKept) {
     yes();
     applicant({.forename = 2, .surname = 4, .talent = 4, .looks = 6});
     exactly([&] { click(g, "main", "Command2"); });
-    EXPECT_EQ(r.popularity, 68);
-    EXPECT_EQ(happiness(), "10 4 7 10");
+    EXPECT_EQ(str(r.popularity, happiness()), "68 10 4 7 10");
     // Emptied: name, sex and the five attributes; kept: age, happiness, friction, illness and
-    // practice points.
+    // practice points. The next applicant is for the guitar.
     EXPECT_EQ(member(2), "None|0|20 0 0 0 0 0 4 2");
-    EXPECT_EQ(r.memberill[2] + r.practice[2], 5);
+    EXPECT_EQ(str(r.memberill[2], r.practice[2], r.vacancy), "2 3 2");
     EXPECT_EQ(f.members.rows, (Lines{"Ann Vox", "Cy Low", "Di Kit"}));
-    EXPECT_EQ(r.vacancy, 2);
-    EXPECT_EQ(f.txtapplicant.caption,
-              "Adam Jones wants to join the band, he is a reasonable "
-              "Guitar player, and looks pretty good! ");
+    EXPECT_EQ(f.txtapplicant.caption.rfind("Adam Jones wants to join the band, he is a "
+                                           "reasonable Guitar",
+                                           0),
+              0u);
 }
 
 TEST_F(Roster, LeaverWithoutFrictionCostsEveryoneFourAndPopularityStopsAtZero) {
@@ -109,8 +103,7 @@ TEST_F(Roster, LeaverWithoutFrictionCostsEveryoneFourAndPopularityStopsAtZero) {
     g.main.selectedmember = 4;
     applicant();
     exactly([&] { delete_member(g); });
-    EXPECT_EQ(r.popularity, 0);
-    EXPECT_EQ(happiness(), "0 0 3 6");
+    EXPECT_EQ(str(r.popularity, happiness()), "0 0 0 3 6");
 }
 
 // A walk-out in slot 1 costs the others 4 happiness; Cy drops to 0 and, later in the same
@@ -130,15 +123,12 @@ TEST_F(Roster, WalkOutCarriesALaterMemberAndLeavesTheEmptySlotPicked) {
     picks({{2, 1000}, {2, 1000}});             // nobody falls ill
     applicant({.forename = 7, .surname = 7});  // the turn's update: Carl Richards
     command6(g);
-    EXPECT_EQ(r.membername[1] + r.membername[3], "NoneNone");
-    EXPECT_EQ(happiness(), "0 2 0 2");  // 10, less 4 for each leaver
-    EXPECT_EQ(r.popularity, 39);        // 100 - 30 - 30, then the decay
-    EXPECT_EQ(r.cash, 2995);
-    EXPECT_EQ(g.main.applicantname, "Carl Richards");
-    EXPECT_EQ(g.main.selectedmember, 3);
+    // 100 - 30 - 30, then the decay; 10 less 4 for each leaver.
+    EXPECT_EQ(str(r.membername[1], r.membername[3], r.popularity, happiness(), r.cash,
+                  g.main.applicantname, g.main.selectedmember),
+              "None None 39 0 2 0 2 2995 Carl Richards 3");
     const std::string shock =
-        " has decided to leave the band! The rest of the band is in a state "
-        "of shock.";
+        " has decided to leave the band! The rest of the band is in a state of shock.";
     EXPECT_EQ(memos(), (Lines{memo("Mona", "Ann Vox" + shock), memo("Mona", "Cy Low" + shock)}));
     ok_memos();
     dblclick(g, "main", "members");  // the empty slot is still the one asked about
@@ -152,8 +142,7 @@ TEST_F(Roster, WalkOutCarriesALaterMemberAndLeavesTheEmptySlotPicked) {
     applicant();
     click(g, "main", "Command2");
     EXPECT_EQ(take().front(), yesno("Are you sure you want to sack None?", true));
-    EXPECT_EQ(r.popularity, 39);
-    EXPECT_EQ(happiness(), "0 0 0 0");
+    EXPECT_EQ(str(r.popularity, happiness()), "39 0 0 0 0");
 }
 
 }  // namespace

@@ -9,7 +9,7 @@ namespace {
 
 using testing::Lines;
 using testing::memo;
-using testing::okbox;
+using testing::str;
 
 const std::string kStarted =
     memo("Dave", "Good news, Boss. The band has started writing a new song!");
@@ -17,34 +17,30 @@ const std::string kFinished = memo("Dave", "The band has finished writing a new 
 
 class Songs : public ::testing::Test, protected testing::TestGame {
   protected:
-    void SetUp() override {
-        new_game();
-        full_band();
-    }
+    void SetUp() override { new_game().full_band(); }
     /// Record Song, then the lines it raised, with its memos acknowledged.
     Lines record() {
-        EXPECT_EQ(click(g, "main", "command1"), ClickResult::Done);
+        click(g, "main", "command1");
         ok_memos();
         return take();
     }
 };
 
 TEST_F(Songs, RefusalsComeInOrderAndChangeNothing) {
-    const std::string limit = okbox("You have reached the limit of 20 songs!");
+    const Lines limit{testing::okbox("You have reached the limit of 20 songs!")};
     r.membername[2] = r.membername[4] = "None";
     r.songweeks = 5;
     r.songcount = 20;
     draws({0.5});  // must stay undrawn
-    EXPECT_EQ(record(), Lines{limit});
+    EXPECT_EQ(record(), limit);
     r.songcount = 19;
     EXPECT_EQ(record(), Lines{memo("Dave", "The band is currently working on a song.")});
     r.songweeks = 10;
     EXPECT_EQ(record(), Lines{memo("Dave", "You need a full band to write a song, Boss")});
     full_band();
     r.songcount = 20;
-    EXPECT_EQ(record(), Lines{limit});
-    EXPECT_EQ(r.songweeks, 10);
-    EXPECT_EQ(g.rnd.queued_left(), 1u);
+    EXPECT_EQ(record(), limit);
+    EXPECT_EQ(str(r.songweeks, g.rnd.queued_left()), "10 1");
 }
 
 TEST_F(Songs, RestedBandStartsAtOnceTiredBandIsAskedAndYesCostsHappiness) {
@@ -56,18 +52,16 @@ TEST_F(Songs, RestedBandStartsAtOnceTiredBandIsAskedAndYesCostsHappiness) {
     }
     const std::string tired = testing::yesno(
         "The band wants a rest before starting on a new song. Make them record anyway?", false);
-    r.songweeks = 10;
     r.tiredness = 1;
+    r.songweeks = 10;
     set_happy(0, 10, 5, 1);
     pick(2, 4);
     no();
     EXPECT_EQ(record(), Lines{tired});
-    EXPECT_EQ(happiness() + " " + std::to_string(r.songweeks), "0 10 5 1 10");
+    EXPECT_EQ(str(happiness(), r.songweeks), "0 10 5 1 10");
     yes();
     EXPECT_EQ(record(), (Lines{tired.substr(0, tired.size() - 2) + "yes", kStarted}));
-    EXPECT_EQ(happiness() + " " + std::to_string(r.songweeks), "0 9 4 0 5");
-    EXPECT_EQ(r.tiredness, 1);
-    EXPECT_EQ(r.cash, 3000);
+    EXPECT_EQ(str(happiness(), r.songweeks, r.tiredness, r.cash), "0 9 4 0 5 1 3000");
 }
 
 TEST_F(Songs, MakesongDrawsQualityInSlotOrderThenTirednessThenTitle) {
@@ -85,19 +79,16 @@ TEST_F(Songs, MakesongDrawsQualityInSlotOrderThenTirednessThenTitle) {
     draws({0.1});                       // slot 4: creativity 1
     picks({{1, 3}, {1, 20}, {6, 20}});  // tiredness 2, replacing 9; "Wild" " Love"
     makesong(g);
-    EXPECT_EQ(g.rnd.queued_left(), 0u);
-    EXPECT_EQ(r.songquality[4], 5 + 1 + 1 + 1 + 2 + 2 + 2 + 1);
-    EXPECT_EQ(r.songname[4], "Wild Love");
-    EXPECT_EQ(r.tiredness, 2);
-    EXPECT_EQ(r.nextsong * 10 + r.songcount, 44);
+    EXPECT_EQ(str(g.rnd.queued_left(), r.songquality[4], r.songname[4], r.tiredness, r.nextsong,
+                  r.songcount),
+              "0 15 Wild Love 2 4 4");
     EXPECT_EQ(g.forms.main.songlist.rows, (Lines{"Song 1", "Song 2", "Song 3", "Wild Love"}));
     EXPECT_EQ(memos(), Lines{kFinished});
     full_band({.talent = 1, .creativity = 1});  // a band of 1s always writes quality 8
     for (int i = 0; i < 8; ++i) draws({0.999});
     picks({{3, 3}, {20, 20}, {20, 20}});
     makesong(g);
-    EXPECT_EQ(r.songname[5] + " " + std::to_string(r.songquality[5]), "Shocked Feelings 8");
-    EXPECT_EQ(r.tiredness, 4);
+    EXPECT_EQ(str(r.songname[5], r.songquality[5], r.tiredness), "Shocked Feelings 8 4");
 }
 
 TEST_F(Songs, TheTurnThatFinishesASongLeavesTirednessOneToThree) {
@@ -111,9 +102,7 @@ TEST_F(Songs, TheTurnThatFinishesASongLeavesTirednessOneToThree) {
         week_start();
         week_end(false);
         command6(g);
-        EXPECT_EQ(g.rnd.queued_left(), 0u);
-        EXPECT_EQ(r.tiredness, tired + 1);
-        EXPECT_EQ(r.songweeks, 10);
+        EXPECT_EQ(str(g.rnd.queued_left(), r.tiredness, r.songweeks), str(0, tired + 1, 10));
         EXPECT_EQ(memos().front(), kFinished);
         ok_memos();
     }
@@ -126,17 +115,15 @@ TEST_F(Songs, TrackListAndPickingASong) {
     r.songcount = 2;
     updatesonglist(g);
     EXPECT_EQ(g.forms.main.songlist.rows, (Lines{"Song 1", "Song 2"}));
-    EXPECT_EQ(click(g, "main", "songlist", 1), ClickResult::Done);
+    click(g, "main", "songlist", 1);
     EXPECT_EQ(g.main.selectedsong, 2);
     message(g, "busy", "Dave");
     EXPECT_EQ(click(g, "main", "songlist", 0), ClickResult::Ignored);  // a memo is open
     ok_memos();
-    EXPECT_EQ(click(g, "main", "songlist", 0), ClickResult::Done);
-    EXPECT_EQ(g.main.selectedsong, 1);
+    click(g, "main", "songlist", 0);
     r.songcount = 0;
     updatesonglist(g);
-    EXPECT_TRUE(g.forms.main.songlist.rows.empty());
-    EXPECT_EQ(g.main.selectedsong, 1);  // only a click changes it
+    EXPECT_EQ(str(g.forms.main.songlist.rows.size(), g.main.selectedsong), "0 1");
 }
 
 }  // namespace

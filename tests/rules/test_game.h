@@ -5,6 +5,7 @@
 #include <gtest/gtest.h>
 
 #include <initializer_list>
+#include <sstream>
 #include <string>
 #include <utility>
 #include <vector>
@@ -19,6 +20,15 @@
 namespace tourvane::testing {
 
 using Lines = std::vector<std::string>;
+
+/// The values written one after another with a blank between, to compare several at once.
+template <class... T>
+std::string str(const T&... v) {
+    std::ostringstream out;
+    ((out << v << ' '), ...);
+    const std::string s = out.str();
+    return s.substr(0, s.size() - 1);
+}
 
 struct Member {
     int talent = 3, charisma = 5, attitude = 5, looks = 5, creativity = 2, happy = 10;
