@@ -53,10 +53,13 @@ class ScreenshotsTest : public QObject {
         h.game_under_way();
         book(h, 1);  // part-way through a set list
         shoot(h, "gig");
+        QVERIFY(!h.view("main")->isVisible() && !h.widget("gig", "location(3)")->isEnabled());
         h.pick_track(2);
+        QCOMPARE(h.text("gig", "tracks(2)"), QString("3. Velvet Static"));
         h.click("gig", "command4");
         shoot(h, "thenewspaper");
         h.click("thenewspaper", "Label2");
+        QVERIFY(!h.widget("main", "command4")->isEnabled());  // one gig a week
         h.click("main", "command5");
         shoot(h, "savefrm");
     }
@@ -83,7 +86,12 @@ class ScreenshotsTest : public QObject {
         h.g.forms.main.secret.enabled = true;
         h.windows->refresh();
         h.click("main", "secret");
-        shoot(h, "Chart");
+        shoot(h, "Chart");  // beside the office, which still takes clicks
+        QVERIFY(!h.view("Chart")->frameGeometry().intersects(h.view("main")->frameGeometry()));
+        QCOMPARE(h.widget("Chart", "track(6)")->palette().color(QPalette::WindowText),
+                 QColor(255, 255, 0));
+        h.click("main", "promote(3)");
+        QCOMPARE(h.g.rec.promotion, 4);
     }
 };
 

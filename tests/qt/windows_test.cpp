@@ -2,7 +2,6 @@
 // queue over a disabled office, the drawn buttons, the keyboard, a gig, the chart and quitting.
 
 #include <QRadioButton>
-#include <QShortcut>
 #include <QSignalSpy>
 #include <QtTest>
 
@@ -154,10 +153,6 @@ class WindowsTest : public QObject {
             QCOMPARE(w, spot);
             w = w->nextInFocusChain();
         }
-        for (QShortcut* s : main->findChildren<QShortcut*>())  // D, G and F1 stay free
-            for (QKeySequence taken :
-                 {QKeySequence(Qt::Key_D), QKeySequence(Qt::Key_G), QKeySequence(Qt::Key_F1)})
-                QVERIFY(s->key() != taken);
         QTest::keyClick(main, Qt::Key_N);
         QCOMPARE(h.text("main", "txtdate"), week_later());
         QVERIFY(lamp_lit(h, office.secret));
@@ -165,49 +160,6 @@ class WindowsTest : public QObject {
         h.windows->refresh();
         QTest::keyClick(main, Qt::Key_N);
         QCOMPARE(h.text("main", "txtdate"), week_later());
-    }
-
-    void aGigFromBookingToReport() {
-        Harness h;
-        h.game_under_way();
-        h.open_gig();
-        QVERIFY(h.view("gig")->isVisible() && !h.view("main")->isVisible());
-        QVERIFY(!h.widget("gig", "location(3)")->isEnabled());  // the nightclub is shut
-        QVERIFY(QTest::qWaitForWindowActive(h.view("gig")));
-        QTest::keyClick(h.view("gig"), Qt::Key_Escape);  // BACK
-        QVERIFY(h.view("main")->isVisible() && !h.view("gig")->isVisible());
-        h.open_gig();
-        h.click("gig", "location(1)");
-        QCOMPARE(h.text("gig", "txtcapacity"), QString("240"));
-        h.click("gig", "command1");
-        h.pick_track(2);
-        QCOMPARE(h.text("gig", "tracks(2)"), QString("3. Velvet Static"));
-        h.click("gig", "command4");
-        QVERIFY(h.view("thenewspaper")->isVisible() && !h.view("gig")->isVisible());
-        h.click("thenewspaper", "Label2");
-        QVERIFY(h.view("main")->isVisible());
-        QVERIFY(!lamp_lit(h, h.g.forms.main.command4));  // one gig a week
-    }
-
-    void theChartOpensBesideTheOffice() {
-        Harness h;
-        h.new_game();
-        h.g.rec.chartband[1] = "The Wasps";
-        h.g.rec.charttitle[1] = "Paper Sting";
-        h.g.rec.chartsales[1] = 900;
-        h.g.forms.main.secret.enabled = true;
-        h.windows->refresh();
-        h.click("main", "secret");
-        tourvane::FormView* chart = h.view("Chart");
-        QVERIFY(chart->isVisible() && h.view("main")->isVisible());
-        QVERIFY(!chart->frameGeometry().intersects(h.view("main")->frameGeometry()));
-        QCOMPARE(h.text("Chart", "track(1)"), QString("The Wasps with Paper Sting"));
-        QCOMPARE(h.widget("Chart", "track(1)")->palette().color(QPalette::WindowText),
-                 QColor(255, 255, 0));
-        h.click("main", "promote(3)");  // not modal: the office still takes clicks
-        QCOMPARE(h.g.rec.promotion, 4);
-        h.click("Chart", "command1");
-        QVERIFY(!chart->isVisible());
     }
 
     void quitAsksAndYesEndsTheTitlesExitDoesNotAsk() {

@@ -49,24 +49,18 @@ std::map<std::string, std::string> snapshot(Game& g, int seed = 0) {
     for (const Field& f : fields(g)) {
         for (int i = f.is_array() ? 0 : -1; i <= f.upper; ++i, ++n) {
             std::string& text = out[std::string(f.name) + "(" + std::to_string(i) + ")"];
-            switch (f.type) {
-                case FieldType::String:
-                    if (seed) f.at<std::string>(i) = "é" + std::to_string(n);
-                    text = f.at<std::string>(i);
-                    break;
-                case FieldType::Integer:
-                case FieldType::Boolean:
-                    if (seed) f.at<Integer>(i) = static_cast<Integer>(n - 20000);
-                    text = std::to_string(f.at<Integer>(i));
-                    break;
-                case FieldType::Long:
-                    if (seed) f.at<Long>(i) = n * 70001;
-                    text = std::to_string(f.at<Long>(i));
-                    break;
-                case FieldType::Date:
-                    if (seed) f.at<Date>(i) = 37135.0 + n;
-                    text = std::to_string(f.at<Date>(i));
-                    break;
+            if (f.type == FieldType::String) {
+                if (seed) f.at<std::string>(i) = "é" + std::to_string(n);
+                text = f.at<std::string>(i);
+            } else if (f.type == FieldType::Long) {
+                if (seed) f.at<Long>(i) = n * 70001;
+                text = std::to_string(f.at<Long>(i));
+            } else if (f.type == FieldType::Date) {
+                if (seed) f.at<Date>(i) = 37135.0 + n;
+                text = std::to_string(f.at<Date>(i));
+            } else {
+                if (seed) f.at<Integer>(i) = static_cast<Integer>(n - 20000);
+                text = std::to_string(f.at<Integer>(i));
             }
         }
     }
@@ -109,24 +103,16 @@ TEST(SaveLayout, KnownGameLandsInItsRecords) {
     r.chartlife[70] = 250;
     const Bytes b = save_bytes(r);
     ASSERT_EQ(b.size(), 97152u);
-    const std::pair<int, Bytes> records[] = {{1, {4, 0, 'C', 'a', 'f', 0xE9}},
-                                             {3, {0x64, 0}},
-                                             {4, {0xFF, 0xFF}},
-                                             {44, {0xFF, 0xFF}},
-                                             {56, {2, 1}},
-                                             {132, {0x4D, 1}},
-                                             {704, {0x4D, 1}},
-                                             {133, {0xFE, 0xFF, 0xFF, 0xFF}},
-                                             {139, {10, 0}},
-                                             {141, {0, 0, 0, 0, 0xE0, 0x21, 0xE2, 0x40}},
-                                             {143, {0, 0}},
-                                             {703, {149, 0}},
-                                             {754, {250, 0}},
-                                             {759, {0xFF, 0xFF}}};
-    for (const auto& [record, bytes] : records) {
-        Bytes whole = bytes;
-        whole.resize(128);
-        EXPECT_EQ(bytes_at(b, record, 128), whole) << record;
+    std::istringstream records(  // record: its bytes in hex; the rest of each record is zeros
+        "1:04 00 43 61 66 E9|3:64 00|4:FF FF|44:FF FF|56:02 01|132:4D 01|704:4D 01|"
+        "133:FE FF FF FF|139:0A 00|141:00 00 00 00 E0 21 E2 40|143:00 00|703:95 00|754:FA 00|"
+        "759:FF FF");
+    for (std::string item; std::getline(records, item, '|');) {
+        std::string dump, want = item.substr(item.find(':') + 1) + " ";
+        while (want.size() < 128 * 3) want += "00 ";
+        for (std::uint8_t byte : bytes_at(b, std::stoi(item), 128))
+            dump += {"0123456789ABCDEF"[byte >> 4], "0123456789ABCDEF"[byte & 15], ' '};
+        EXPECT_EQ(dump, want) << item;
     }
 }
 
@@ -187,19 +173,15 @@ TEST(SaveReading, CraftedFileIsTakenFieldByField) {
     ASSERT_TRUE(loaded);
     EXPECT_EQ(loaded->bandname + "|" + loaded->playername + "|" + loaded->songname[1],
               "Zoë||“Hi”!");
-    EXPECT_EQ(loaded->signed_, 1);
-    EXPECT_EQ(loaded->memberhappy[1], -1);
-    EXPECT_EQ(loaded->cash, -2147479552);
-    EXPECT_EQ(loaded->gamedate, 37137.0);
-    EXPECT_EQ(loaded->chartlife[20], 9);
-    EXPECT_EQ(loaded->venueopen[1], kTrue);
+    EXPECT_EQ(str(loaded->signed_, loaded->memberhappy[1], loaded->cash, loaded->gamedate,
+                  loaded->chartlife[20], loaded->venueopen[1]),
+              "1 -1 -2147479552 37137 9 -1");
     // A short file reads empty and 0 from where it ends.
     put(5, {1, 0, 'A'});
     b.resize(at(5) + 3);
     const auto cut = parse_save(b, t.r);
     ASSERT_TRUE(cut);
-    EXPECT_EQ(cut->membername[1], "A");
-    EXPECT_EQ(cut->cash + cut->songweeks + cut->gamedate, 0.0);
+    EXPECT_EQ(str(cut->membername[1], cut->cash, cut->songweeks, cut->gamedate), "A 0 0 0");
 }
 
 TEST(SaveReading, DamagedFilesAreRefused) {
