@@ -10,12 +10,9 @@ namespace {
 using testing::Lines;
 using testing::str;
 
-class ChartStep : public ::testing::Test, protected testing::TestGame {
+class ChartStep : public testing::Office {
   protected:
-    void SetUp() override {
-        new_game();
-        calm_chart();
-    }
+    void SetUp() override { calm_chart(); }
     void row(int i, int demand, int fame, int life, Long sales = 0) {
         r.chartdemand[i] = static_cast<Integer>(demand);
         r.chartfame[i] = static_cast<Integer>(fame);
@@ -95,10 +92,9 @@ TEST_F(ChartStep, PlayerRowsStandStillAndRowTwentyIsARivalRow) {
 
 // The chart screen. Row i is "Band i" with "Title i" and sells i copies unless a test says
 // otherwise.
-class ChartScreen : public ::testing::Test, protected testing::TestGame {
+class ChartScreen : public testing::Office {
   protected:
     void SetUp() override {
-        new_game();
         EXPECT_EQ(click(g, "main", "secret"), ClickResult::Ignored);  // no full week yet
         for (int i = 1; i <= 70; ++i) {
             r.chartband[i] = "Band " + std::to_string(i);

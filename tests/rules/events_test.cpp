@@ -9,9 +9,8 @@ using testing::Lines;
 using testing::memo;
 using testing::str;
 
-class Events : public ::testing::Test, protected testing::TestGame {
+class Events : public testing::Office {
   protected:
-    void SetUp() override { new_game().full_band(); }
     /// Illness draws that strike nobody, each small enough to be a misbehaviour if taken for one.
     void nobody_ill(int n = 4) {
         for (int i = 0; i < n; ++i) pick(2, 1000);

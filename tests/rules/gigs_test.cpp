@@ -1,5 +1,6 @@
 // Gigs: booking from the office, the gig screen, the score, the crowd, the money and the
 // newspaper report, all driven through the clicks a player makes.
+#include "gigs/booking.h"
 #include "rules/test_game.h"
 
 namespace tourvane {
@@ -9,15 +10,15 @@ using testing::Lines;
 using testing::okbox;
 using testing::str;
 
-class GigsTest : public ::testing::Test, protected testing::TestGame {
+/// A full, fit band whose members add nothing to a score, three songs, every venue open.
+class GigsTest : public testing::Office {
   protected:
-    /// A full, fit band whose members add nothing to a score, three songs, every venue open.
     void SetUp() override {
-        new_game().full_band({.talent = 4, .looks = 4, .happy = 4});
+        full_band({.talent = 4, .looks = 4, .happy = 4});
         const char* songs[] = {"", "Alpha", "Beta", "Gamma", "Delta", "Echo"};
         for (int s = 1; s <= 5; ++s) r.songname[s] = songs[s], r.songquality[s] = 20;
         r.songcount = r.nextsong = 3;
-        for (int v = 1; v <= 5; ++v) r.venueopen[v] = kTrue;
+        r.venueopen = {0, -1, -1, -1, -1, -1};
         r.popularity = 100;
     }
     void set_qualities(std::initializer_list<int> q) {
@@ -55,20 +56,6 @@ class GigsTest : public ::testing::Test, protected testing::TestGame {
     }
 };
 
-TEST_F(GigsTest, OpenVenuesAndNothingElseUntilOneIsChosen) {
-    r.venueopen[2] = r.venueopen[5] = kFalse;
-    click(g, "main", "command4");
-    const GigForm& f = g.forms.gig;
-    EXPECT_TRUE(f.visible && !g.forms.main.visible);
-    EXPECT_EQ(f.Combo1.rows, (Lines{"Alpha", "Beta", "Gamma"}));
-    EXPECT_EQ(str(f.location[0].enabled, f.location[1].enabled, f.location[2].enabled,
-                  f.location[3].enabled, f.location[4].enabled, f.command1.enabled,
-                  f.Combo1.enabled, f.command4.enabled, int(click(g, "main", "command6"))),
-              str(1, 0, 1, 1, 0, 0, 0, 0, int(ClickResult::Ignored)));
-    EXPECT_EQ(click(g, "gig", "Command2"), ClickResult::Done);
-    EXPECT_TRUE(g.forms.main.visible);
-}
-
 TEST_F(GigsTest, SlotsAreWalkedInOrderThenTheSongsAreCounted) {
     const std::string ill = " is ill and cannot perform, ";
     const struct {
@@ -86,9 +73,8 @@ TEST_F(GigsTest, SlotsAreWalkedInOrderThenTheSongsAreCounted) {
     };
     for (const auto& c : cases) {
         SetUp();
-        r.memberill[2] = static_cast<Integer>(c.ill2);
+        r.memberill = {0, 0, Integer(c.ill2), 0, Integer(c.ill4)};
         if (c.vacant) r.membername[c.vacant] = "None";
-        r.memberill[4] = static_cast<Integer>(c.ill4);
         r.membersex[4] = c.sex4;
         r.songcount = c.text[0] == 'T' ? 2 : 3;
         click(g, "main", "command4");
@@ -98,40 +84,46 @@ TEST_F(GigsTest, SlotsAreWalkedInOrderThenTheSongsAreCounted) {
     }
 }
 
-TEST_F(GigsTest, VenueFiguresAndTheApplication) {
+TEST_F(GigsTest, OpenVenuesTheirFiguresAndTheApplication) {
+    r.venueopen[2] = r.venueopen[5] = 0;
     click(g, "main", "command4");
-    const char* shown[] = {"40 £2 £0", "240 £3 £240", "800 £4 £1067", "1040 £6 £2080",
-                           "1240 £7 £2893"};
-    const int cost[] = {0, 240, 1067, 2080, 2893};
     const GigForm& f = g.forms.gig;
+    EXPECT_EQ(f.Combo1.rows, (Lines{"Alpha", "Beta", "Gamma"}));
+    // Until a venue is chosen only the open venues and BACK respond; the office is hidden.
+    EXPECT_EQ(str(f.location[0].enabled, f.location[1].enabled, f.location[2].enabled,
+                  f.location[3].enabled, f.location[4].enabled, f.command1.enabled,
+                  f.Combo1.enabled, f.command4.enabled, g.forms.main.visible),
+              "1 0 1 1 0 0 0 0 0");
+    r.venueopen[2] = r.venueopen[5] = -1;
+    load_gig(g);
+    const char* shown[] = {"40 £2 £0 1 0", "240 £3 £240 2 240", "800 £4 £1067 3 1067",
+                           "1040 £6 £2080 4 2080", "1240 £7 £2893 5 2893"};
     for (int k = 0; k < 5; ++k) {
         click(g, "gig", "location", k);
-        EXPECT_EQ(str(f.txtcapacity.caption, f.txtticket.caption, f.txthire.caption), shown[k]);
-        EXPECT_EQ(str(g.gig.gigvenue, r.hirecost), str(k + 1, cost[k]));
+        EXPECT_EQ(str(f.txtcapacity.caption, f.txtticket.caption, f.txthire.caption, g.gig.gigvenue,
+                      r.hirecost),
+                  shown[k]);
     }
     r.popularity = 199;  // Town Hall asks for 200
     click(g, "gig", "location", 2);
     click(g, "gig", "command1");
-    EXPECT_EQ(boxes(),
-              Lines{okbox("Sorry, but your band is not well known enough to play at our venue.")});
     EXPECT_FALSE(f.Combo1.enabled || f.command3.enabled || f.command4.enabled);
-    lines.clear();
     r.popularity = 200;
     click(g, "gig", "command1");
-    EXPECT_EQ(boxes(), Lines{okbox("We would be delighted for you to come and play!")});
+    EXPECT_EQ(boxes(), (Lines{okbox("Sorry, but your band is not well known enough to play at "
+                                    "our venue."),
+                              okbox("We would be delighted for you to come and play!")}));
     EXPECT_TRUE(f.Combo1.enabled && f.command3.enabled && f.command4.enabled);
-    // Acceptance lasts the visit: a dearer venue needs no new application.
-    click(g, "gig", "location", 4);
+    click(g, "gig", "location", 4);  // acceptance lasts the visit
     EXPECT_TRUE(f.Combo1.enabled);
-    // The first venue is free for being the first, whatever its figures.
-    r.venuefame[1] = 300;
+    r.venuefame[1] = 300;  // the first venue is free for being the first
     click(g, "gig", "location", 0);
-    EXPECT_EQ(f.txtcapacity.caption + " " + f.txthire.caption, "1200 £0");
+    EXPECT_EQ(str(f.txtcapacity.caption, f.txthire.caption), "1200 £0");
 }
 
-TEST_F(GigsTest, TrackPicksRefuseRepeatsAndAFourthTrack) {
+TEST_F(GigsTest, TrackPicksBackKeepsTheListBehindEmptyLabelsAndAShortListIsRefused) {
     r.songcount = 4;
-    open_and_book(0);
+    open_and_book(1);
     lines.clear();
     add_tracks({1, 1, 3, 0, 2});
     EXPECT_EQ(boxes(), (Lines{okbox("This track is already on the list!"),
@@ -139,22 +131,16 @@ TEST_F(GigsTest, TrackPicksRefuseRepeatsAndAFourthTrack) {
     EXPECT_EQ(str(r.setlist[1], r.setlist[2], r.setlist[3], g.forms.gig.tracks[2].caption),
               "2 4 1 3. Alpha");
     click(g, "gig", "command3");  // CLEAR LIST
-    EXPECT_EQ(str(g.gig.tracksadded, r.setlist[1], r.setlist[2], r.setlist[3],
-                  g.forms.gig.tracks[2].caption),
-              "0 0 0 0 ");
-    add_tracks({1});
-    EXPECT_EQ(g.forms.gig.tracks[0].caption, "1. Beta");
-}
-
-TEST_F(GigsTest, BackKeepsTheSetListBehindEmptyLabelsAndAShortListIsRefused) {
-    open_and_book(1);
+    EXPECT_EQ(str(g.gig.tracksadded, r.setlist[1], r.setlist[3], g.forms.gig.tracks[2].caption),
+              "0 0 0 ");
     add_tracks({2, 0});
-    click(g, "gig", "Command2");
+    click(g, "gig", "Command2");  // BACK
     EXPECT_EQ(str(g.forms.main.visible, g.forms.gig.loaded, g.gig.tracksadded, r.hirecost),
               "1 0 2 240");
     click(g, "main", "command4");
-    EXPECT_FALSE(g.forms.gig.command1.enabled || g.forms.gig.Combo1.enabled);
-    EXPECT_EQ(g.forms.gig.tracks[0].caption + g.forms.gig.txthire.caption, "0");
+    EXPECT_EQ(str(g.forms.gig.command1.enabled, g.forms.gig.tracks[0].caption,
+                  g.forms.gig.txthire.caption),
+              "0  0");
     click(g, "gig", "location", 0);
     click(g, "gig", "command1");
     lines.clear();
@@ -180,11 +166,9 @@ TEST_F(GigsTest, WorkedExampleFromBookingToOffice) {
               "98 124 31 -147 2853 1 0 10 5 3 7 0");
     const NewspaperForm& news = g.forms.thenewspaper;
     EXPECT_TRUE(news.visible && !g.forms.gig.loaded && !g.forms.main.visible);
-    EXPECT_EQ(news.txtnews.caption,
-              "The Wasps played a poor gig last night although there were flashes of promise "
-              "from certain individuals. The best song of the gig was Alpha which really fired "
-              "up the crowd.");
-    EXPECT_EQ(news.txtattend.caption + " " + news.txtprofit.caption, "31 £-147");
+    EXPECT_EQ(news.txtnews.caption.substr(104),
+              "The best song of the gig was Alpha which really fired up the crowd.");
+    EXPECT_EQ(str(news.txtattend.caption, news.txtprofit.caption), "31 £-147");
     click(g, "thenewspaper", "Label2");
     EXPECT_EQ(str(g.forms.main.visible, news.loaded, g.forms.main.txtcash.caption), "1 0 £ 2853");
     EXPECT_EQ(click(g, "main", "command4"), ClickResult::Ignored);  // one gig a week
@@ -248,48 +232,45 @@ TEST_F(GigsTest, CrowdFollowsTheRaisedPopularityUpToCapacityAndHireIsAlwaysPaid)
 }
 
 TEST_F(GigsTest, ReportOpensByScoreAndDrawAndAVeryBadGigHurtsOneMember) {
+    const std::string w = "The Wasps played a", nw = "New band The Wasps performed a",
+                      terrible = w +
+                                 " terrible set last night. Lets hope they improve vastly in "
+                                 "the near future, or there may be no future for them!";
     const struct {
         int score, wording;
         std::string opening;
     } cases[] = {
-        {19, 1,
-         "The Wasps played a terrible set last night. Lets hope they improve vastly in the near "
-         "future, or there may be no future for them!"},
+        {19, 1, terrible},
         {20, 2,
          "The band The Wasps were the target of an angry crowd last night as their poor "
          "performance left many people asking why they even turned up!"},
-        {49, 1,
-         "The Wasps played a terrible set last night. Lets hope they improve vastly in the near "
-         "future, or there may be no future for them!"},
+        {49, 1, terrible},
         {50, 1,
-         "The Wasps played a poor gig last night although there were flashes of promise from "
-         "certain individuals."},
+         w + " poor gig last night although there were flashes of promise from certain "
+             "individuals."},
         {149, 2,
-         "The band The Wasps performed a less than average gig last night, prompting discussion "
-         "about their future."},
+         "The band The Wasps performed a less than average gig last night, prompting "
+         "discussion about their future."},
         {150, 1,
-         "The Wasps played a pretty good gig last night, although many agreed they are far off the "
-         "finished article."},
-        {199, 2,
-         "New band The Wasps performed an average gig last night, nothing special but the fans "
-         "were happy."},
-        {200, 1, "The Wasps played an excellent gig last night, the crowd loved every minute."},
-        {230, 2, "New band The Wasps performed a exceptional gig last night."},
+         w + " pretty good gig last night, although many agreed they are far off the "
+             "finished article."},
+        {199, 2, nw + "n average gig last night, nothing special but the fans were happy."},
+        {200, 1, w + "n excellent gig last night, the crowd loved every minute."},
+        {230, 2, nw + " exceptional gig last night."},
     };
     for (const auto& c : cases) {
-        SCOPED_TRACE(c.score);
         set_qualities({c.score / 3, c.score / 3, c.score - 2 * (c.score / 3)});
         r.memberhappy[3] = 4;
         if (c.score < 20) pick(3, 4);
         play(0, c.wording, 4);
-        ASSERT_EQ(g.gig.gigscore, c.score);
         EXPECT_EQ(g.forms.thenewspaper.txtnews.caption,
                   c.opening + " The best song of the gig was " + r.songname[r.bestsong] +
                       " which recieved a good response from the crowd.");
-        EXPECT_EQ(str(r.memberhappy[3], boxes().size()), c.score < 20 ? "3 1" : "4 0");
+        EXPECT_EQ(str(g.gig.gigscore, r.memberhappy[3], boxes().size()),
+                  str(c.score, c.score < 20 ? "3 1" : "4 0"));
         next_gig();
     }
-    // The drawn member takes it badly with no floor; the friction is floored only at the end.
+    // The drawn member takes it badly with no floor; the score is floored only at the end.
     set_qualities({10, 10, 10});
     r.popularity = 100;
     r.memberfriction[2] = 40;  // 30 - 40 = -10 on the way ...

@@ -16,10 +16,9 @@ const std::string kSigned =
 const std::string kRejected = memo("Mona", "The record label rejected our demo tape.");
 const std::string kSent = memo("Dave", "We have sent a demo to the record company");
 
-class Label : public ::testing::Test, protected testing::TestGame {
+class Label : public testing::Office {
   protected:
     void SetUp() override {
-        new_game().full_band();
         calm_chart();
         songs({10, 45});
     }

@@ -11,14 +11,10 @@ using testing::memo;
 using testing::str;
 using testing::yesno;
 
-class Roster : public ::testing::Test, protected testing::TestGame {
+class Roster : public testing::Office {
   protected:
     OfficeForm& f = g.forms.main;
-    void SetUp() override {
-        new_game().full_band();
-        listupdate(g);
-        update(g);
-    }
+    void SetUp() override { listupdate(g), update(g); }
 };
 
 TEST_F(Roster, ListClosesGapsAndARowFillsThePanel) {

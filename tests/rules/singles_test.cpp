@@ -14,10 +14,9 @@ using testing::str;
 
 const std::string kOffer = "msgbox yesno \"Do you want to release this song as a single?\" -> ";
 
-class Singles : public ::testing::Test, protected testing::TestGame {
+class Singles : public testing::Office {
   protected:
     void SetUp() override {
-        new_game().full_band();
         calm_chart();
         songs({30, 12, 50, 20});
         r.signed_ = -1;

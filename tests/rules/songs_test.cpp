@@ -15,9 +15,8 @@ const std::string kStarted =
     memo("Dave", "Good news, Boss. The band has started writing a new song!");
 const std::string kFinished = memo("Dave", "The band has finished writing a new song!");
 
-class Songs : public ::testing::Test, protected testing::TestGame {
+class Songs : public testing::Office {
   protected:
-    void SetUp() override { new_game().full_band(); }
     /// Record Song, then the lines it raised, with its memos acknowledged.
     Lines record() {
         click(g, "main", "command1");

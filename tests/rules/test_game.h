@@ -186,6 +186,11 @@ class TestGame {
     }
 };
 
+/// A fixture with the office up and a full, steady band.
+struct Office : ::testing::Test, TestGame {
+    Office() { new_game().full_band(); }
+};
+
 /// The transcript lines of a memo and of the boxes.
 inline std::string memo(std::string_view from, std::string_view text) {
     return "memo " + json_quote(from) + " " + json_quote(text);

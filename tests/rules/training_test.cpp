@@ -12,13 +12,9 @@ using testing::memo;
 using testing::str;
 using testing::yesno;
 
-class Training : public ::testing::Test, protected testing::TestGame {
+class Training : public testing::Office {
   protected:
-    void SetUp() override {
-        new_game().full_band();
-        listupdate(g);
-        update(g);
-    }
+    void SetUp() override { listupdate(g), update(g); }
     /// A lesson for the member of row `row`, answered Yes or No; the lines it raised.
     Lines lesson(int row, bool go) {
         click(g, "main", "members", row);
