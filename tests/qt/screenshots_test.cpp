@@ -10,58 +10,61 @@
 
 using tourvane::testing::Harness;
 
+namespace {
+
+/// Saves the screen's picture and checks that it holds more than a few flat colours.
+void shoot(QWidget* view, const char* file) {
+    QVERIFY2(view->isVisible(), file);
+    QDir().mkpath(TOURVANE_SCREENSHOT_DIR);
+    const QImage image = view->grab().toImage();
+    QSet<QRgb> colours;
+    for (int y = 0; y < image.height(); y += 3)
+        for (int x = 0; x < image.width(); x += 3) colours.insert(image.pixel(x, y));
+    QVERIFY2(colours.size() > 40, file);
+    QVERIFY(image.save(QString(TOURVANE_SCREENSHOT_DIR) + "/" + file));
+}
+
+/// Books the second venue and picks songs up to `row` of the list, as a player would.
+void book(Harness& h, int row) {
+    h.open_gig();
+    h.click("gig", "location(1)");
+    h.click("gig", "command1");
+    h.pick_track(row);
+}
+
+}  // namespace
+
 class ScreenshotsTest : public QObject {
     Q_OBJECT
-
-    /// Saves the screen's picture and checks that it holds more than a few flat colours.
-    static void shoot(Harness& h, const char* form) {
-        tourvane::FormView* view = h.view(form);
-        QVERIFY2(view->isVisible(), form);
-        QDir().mkpath(TOURVANE_SCREENSHOT_DIR);
-        const QImage image = view->grab().toImage();
-        QSet<QRgb> colours;
-        for (int y = 0; y < image.height(); y += 3)
-            for (int x = 0; x < image.width(); x += 3) colours.insert(image.pixel(x, y));
-        QVERIFY2(colours.size() > 40, form);
-        QVERIFY(image.save(QString(TOURVANE_SCREENSHOT_DIR) + "/" + form + ".png"));
-    }
-
-    /// Books the second venue and picks songs up to `row` of the list, as a player would.
-    static void book(Harness& h, int row) {
-        h.open_gig();
-        h.click("gig", "location(1)");
-        h.click("gig", "command1");
-        h.pick_track(row);
-    }
 
   private slots:
     void titleOfficeAndMemo() {
         Harness h;
-        shoot(h, "Form1");
+        shoot(h.view("Form1"), "Form1.png");
         h.game_under_way();
         h.view("main")->activateWindow();
         QVERIFY(QTest::qWaitForWindowActive(h.view("main")));
         h.widget("main", "command6")->setFocus(Qt::TabFocusReason);
-        shoot(h, "main");
+        shoot(h.view("main"), "main.png");
         tourvane::message(h.g, "The band are playing well together. Keep them rehearsing!", "Dave");
         h.windows->refresh();
-        shoot(h, "messageForm");
+        shoot(h.view("messageForm"), "messageForm.png");
     }
 
     void gigNewspaperAndFiles() {
         Harness h;
         h.game_under_way();
         book(h, 1);  // part-way through a set list
-        shoot(h, "gig");
+        shoot(h.view("gig"), "gig.png");
         QVERIFY(!h.view("main")->isVisible() && !h.widget("gig", "location(3)")->isEnabled());
         h.pick_track(2);
         QCOMPARE(h.text("gig", "tracks(2)"), QString("3. Velvet Static"));
         h.click("gig", "command4");
-        shoot(h, "thenewspaper");
+        shoot(h.view("thenewspaper"), "thenewspaper.png");
         h.click("thenewspaper", "Label2");
         QVERIFY(!h.widget("main", "command4")->isEnabled());  // one gig a week
         h.click("main", "command5");
-        shoot(h, "savefrm");
+        shoot(h.view("savefrm"), "savefrm.png");
     }
 
     void chart() {
@@ -86,7 +89,7 @@ class ScreenshotsTest : public QObject {
         h.g.forms.main.secret.enabled = true;
         h.windows->refresh();
         h.click("main", "secret");
-        shoot(h, "Chart");  // beside the office, which still takes clicks
+        shoot(h.view("Chart"), "Chart.png");  // beside the office, which still takes clicks
         QVERIFY(!h.view("Chart")->frameGeometry().intersects(h.view("main")->frameGeometry()));
         QCOMPARE(h.widget("Chart", "track(6)")->palette().color(QPalette::WindowText),
                  QColor(255, 255, 0));
