@@ -97,10 +97,7 @@ TEST_F(Applicants, HireAtThreeLetsTwoMoreDismissalsThroughThenTheWeekRunsDry) {
     EXPECT_EQ(str(g.main.applicantsseen, panel(), f.hire.enabled), "6 No Applicants 1");
     // Run dry: a hire copies the last applicant into each next empty slot, which keeps its
     // illness and practice.
-    r.memberill[2] = 4;
-    r.practice[2] = 3;
-    r.memberfriction[2] = 6;
-    r.memberhappy[2] = 1;
+    r.memberill[2] = 4, r.practice[2] = 3, r.memberfriction[2] = 6, r.memberhappy[2] = 1;
     press("hire");
     press("hire");
     for (int s : {2, 3}) EXPECT_EQ(member(s), "Beth Smith|Female|21 4 8 2 6 2 10 0");
@@ -127,8 +124,7 @@ TEST_F(Applicants, MemoAtExactlyFiveComesAfterTheNextApplicantIsDrawn) {
     EXPECT_EQ(str(r.membername[2], panel()), "Bryan Jones No Applicants");
     EXPECT_TRUE(memos().empty());
     full_band();  // the hire that fills the band at five: the panel closes, the memo comes
-    r.membername[4] = "None";
-    g.main.applicantsseen = 4;
+    r.membername[4] = "None", g.main.applicantsseen = 4;
     applicant();
     update(g);
     press("hire");
@@ -181,8 +177,7 @@ TEST_F(Roster, StatusMemoHasHappinessFrictionAndIllness) {
     for (const auto& c : cases) {
         r.memberhappy[2] = static_cast<Integer>(c.happy);
         r.memberfriction[2] = static_cast<Integer>(c.friction);
-        r.memberill[2] = static_cast<Integer>(c.ill);
-        r.membersex[2] = c.sex;
+        r.memberill[2] = static_cast<Integer>(c.ill), r.membersex[2] = c.sex;
         dblclick(g, "main", "members", 1);
         EXPECT_EQ(memos(), (Lines{memo("Dave", c.text)})) << c.happy;
         ok_memos();
@@ -194,9 +189,7 @@ TEST_F(Roster, StatusMemoHasHappinessFrictionAndIllness) {
 TEST_F(Roster, SackedMemberWithFrictionLiftsTheOthersAndLeavesTheSlotHalfKept) {
     put(2, "Bob Axe", {.talent = 3, .charisma = 6, .attitude = 9, .looks = 5, .creativity = 2});
     set_happy(9, 4, 5, 10);
-    r.memberfriction[2] = r.memberill[2] = 2;
-    r.practice[2] = 3;
-    r.popularity = 100;
+    r.memberfriction[2] = r.memberill[2] = 2, r.practice[2] = 3, r.popularity = 100;
     click(g, "main", "members", 1);
     no();
     click(g, "main", "Command2");
@@ -231,8 +224,7 @@ TEST_F(Roster, LeaverWithoutFrictionCostsEveryoneFourAndPopularityStopsAtZero) {
 // order, walks out too. The picked slot is then an empty one.
 TEST_F(Roster, WalkOutCarriesALaterMemberAndLeavesTheEmptySlotPicked) {
     set_happy(0, 10, 3, 10);
-    r.memberill[3] = 2;
-    r.popularity = 100;
+    r.memberill[3] = 2, r.popularity = 100;
     click(g, "main", "members", 0);  // SACK THIS MEMBER armed
     no();                            // no practice
     pick(1, 5);                      // Ann walks out
@@ -284,9 +276,7 @@ TEST_F(Training, PracticeStepsUpAtFourPoints) {
     const int cases[][4] = {
         {3, 2, 0, 4}, {3, 1, 0, 4}, {2, 1, 3, 3}};  // points, drawn, after, talent
     for (const auto& [before, drawn, after, talent] : cases) {
-        r.practice[2] = static_cast<Integer>(before);
-        r.membertalent[2] = 3;
-        r.tiredness = 0;
+        r.practice[2] = static_cast<Integer>(before), r.membertalent[2] = 3, r.tiredness = 0;
         picks({{2, 4}, {drawn, 2}});  // the guitarist
         exactly([&] { practise(g); });
         EXPECT_EQ(str(r.practice[2], r.membertalent[2], r.tiredness), str(after, talent, 2));
@@ -307,8 +297,7 @@ TEST_F(Training, LessonsNeedAPickNameTheSubjectOfTheSlotAndCost75) {
         EXPECT_EQ(lesson(row, false), Lines{yesno(std::string("It will cost £75 to give ") +
                                                       offer[row] + " lesson. Go ahead?",
                                                   false)});
-    r.practice[3] = 2;
-    r.cash = 150;
+    r.practice[3] = 2, r.cash = 150;
     lesson(2, true);
     EXPECT_EQ(lesson(2, true).back(),  // the last 75 pounds
               memo("Mona", "Thanks to the lesson, Cy Low has become more talented!"));
@@ -330,17 +319,14 @@ TEST_F(Training, HolidayRefusalsAndTheHolidayThatOnlyMovesTheDate) {
     click(g, "main", "holiday");
     EXPECT_EQ(take(), Lines{yesno("Go ahead and book a 2 week holiday?", false)});
     set_happy(8, 3, 10, 0);
-    r.memberill[2] = r.tiredness = 3;
-    r.songweeks = 5;
-    g.main.applicantsseen = 2;
+    r.memberill[2] = r.tiredness = 3, r.songweeks = 5, g.main.applicantsseen = 2;
     yes();
     exactly([&] { click(g, "main", "holiday"); });
     EXPECT_TRUE(memos().empty());
     EXPECT_EQ(str(happiness(), g.forms.main.txtdate.caption, g.forms.main.txtcash.caption),
               "10 7 10 4 15/09/2001 £ 0");
     EXPECT_EQ(str(r.memberill[2], r.tiredness, r.songweeks, g.main.applicantsseen), "3 3 5 2");
-    r.membername[4] = "None";
-    r.cash = 5000;
+    r.membername[4] = "None", r.cash = 5000;
     exactly([&] { click(g, "main", "holiday"); });  // no update, so no applicant either
     EXPECT_EQ(take(),
               Lines{memo("Dave", "We need a full band before we can book a holiday, boss!")});
@@ -361,8 +347,7 @@ class Interviews : public ::testing::Test, protected testing::TestGame {
     /// Takes up an invitation of `kind` from popularity 100 with the draws queued; expects
     /// exactly those taken, the memo given (or none) and the popularity gained.
     void expect(int kind, const char* text, int gain) {
-        r.interviewkind = static_cast<Integer>(kind);
-        r.popularity = 100;
+        r.interviewkind = static_cast<Integer>(kind), r.popularity = 100;
         g.forms.main.interview.enabled = true;
         exactly([&] { EXPECT_EQ(click(g, "main", "interview"), ClickResult::Done); });
         EXPECT_EQ(memos(), text ? Lines{testing::memo("Mona", text)} : Lines{});

@@ -21,8 +21,7 @@ class ChartStep : public testing::Office {
     void SetUp() override { calm_chart(); }
     void row(int i, int demand, int fame, int life, Long sales = 0) {
         r.chartdemand[i] = static_cast<Integer>(demand);
-        r.chartfame[i] = static_cast<Integer>(fame);
-        r.chartlife[i] = static_cast<Integer>(life);
+        r.chartfame[i] = static_cast<Integer>(fame), r.chartlife[i] = static_cast<Integer>(life);
         r.chartsales[i] = sales;
     }
     /// A row as "band / title: demand fame quality life sales last".
@@ -77,14 +76,11 @@ TEST_F(ChartStep, SpentRowsTakeANewRecordFromThePool) {
 }
 
 TEST_F(ChartStep, PlayerRowsStandStillAndRowTwentyIsARivalRow) {
-    r.chartband[5] = "The Wasps";
-    r.chartsales[5] = 77;
-    r.chartlastsales[5] = 60;
+    r.chartband[5] = "The Wasps", r.chartsales[5] = 77, r.chartlastsales[5] = 60;
     const std::string row5 = at(5);
     // Song 20 on sale writes row 20, which the same week's step then moves as a rival row.
     songs(std::vector<int>(20, 10));
-    r.signed_ = -1;
-    r.released[20] = -1;
+    r.signed_ = -1, r.released[20] = -1;
     row(20, 100, 10, 300, 20);
     picks({{5, 20}, {1, 100}});  // 5 copies
     singles_phase(g);
@@ -104,8 +100,7 @@ class ChartScreen : public testing::Office {
         EXPECT_EQ(click(g, "main", "secret"), ClickResult::Ignored);  // no full week yet
         for (int i = 1; i <= 70; ++i) {
             r.chartband[i] = "Band " + std::to_string(i);
-            r.charttitle[i] = "Title " + std::to_string(i);
-            r.chartsales[i] = i;
+            r.charttitle[i] = "Title " + std::to_string(i), r.chartsales[i] = i;
         }
         g.forms.main.secret.enabled = true;
     }
@@ -166,8 +161,7 @@ TEST_F(ChartScreen, TiesGoToTheEarlierRowWhoseSalesRise) {
 
 TEST_F(ChartScreen, PlayersBandNameInYellowAndEmptyRows) {
     r.chartband[70] = "The Wasps";  // a rival row with the player's name
-    r.chartband[69] = "the wasps";
-    r.chartband[68] = r.charttitle[68] = "";
+    r.chartband[69] = "the wasps", r.chartband[68] = r.charttitle[68] = "";
     open();
     EXPECT_EQ(top(3), "The Wasps with Title 70 the wasps with Title 69  with ");
     EXPECT_EQ(str(line(1).color == colour::kYellow, line(2).color == colour::kBrightWhite), "1 1");

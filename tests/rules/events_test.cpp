@@ -33,8 +33,7 @@ TEST_F(Events, OnlyTheFirstMemberOfAttitudeOneToThreeIsTestedAtOddsByAttitude) {
     EXPECT_TRUE(run(50).empty());
     for (int a = 1; a <= 3; ++a) {
         for (bool hit : {true, false}) {
-            r.memberfriction[1] = 0;
-            r.memberattitude[1] = static_cast<Integer>(a);
+            r.memberfriction[1] = 0, r.memberattitude[1] = static_cast<Integer>(a);
             r.memberattitude[2] = static_cast<Integer>(hit ? a : 4);
             draws({(hit ? 0.999 : 1.001) / (a + 5)});
             if (hit) pick(2, 5);

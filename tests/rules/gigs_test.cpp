@@ -75,8 +75,7 @@ TEST_F(GigsTest, SlotsAreWalkedInOrderThenTheSongsAreCounted) {
         SetUp();
         r.memberill = {0, 0, Integer(c.ill2), 0, Integer(c.ill4)};
         if (c.vacant) r.membername[c.vacant] = "None";
-        r.membersex[4] = c.sex4;
-        r.songcount = c.text[0] == 'T' ? 2 : 3;
+        r.membersex[4] = c.sex4, r.songcount = c.text[0] == 'T' ? 2 : 3;
         click(g, "main", "command4");
         EXPECT_EQ(memos(), Lines{testing::memo(c.text[0] == 'T' ? "Dave" : "Mona", c.text)});
         EXPECT_FALSE(g.forms.gig.loaded);
@@ -182,8 +181,7 @@ TEST_F(GigsTest, MemberValuesCountByTheirThresholds) {
     for (const auto& [talent, looks, happy, score] : cases) {
         r.membertalent[3] = static_cast<Integer>(talent);
         r.memberlooks[3] = static_cast<Integer>(looks);
-        r.memberhappy[3] = static_cast<Integer>(happy);
-        r.popularity = 100;
+        r.memberhappy[3] = static_cast<Integer>(happy), r.popularity = 100;
         play();
         EXPECT_EQ(str(g.gig.gigscore, r.popularity), str(score, 100 + score / 4))
             << talent << "/" << looks << "/" << happy;
@@ -218,8 +216,7 @@ TEST_F(GigsTest, CrowdFollowsTheRaisedPopularityUpToCapacityAndHireIsAlwaysPaid)
     // Score 60 adds 15. At the Rose and Crown (capacity 40, £2, free): 145 + 15 gives exactly
     // 40 fans, 149 + 15 gives 41 though 149 alone would give 37.
     for (auto [popularity, fans] : {std::pair{145, 40}, {149, 40}, {141, 39}}) {
-        r.popularity = static_cast<Integer>(popularity);
-        r.cash = 10;
+        r.popularity = static_cast<Integer>(popularity), r.cash = 10;
         play();
         EXPECT_EQ(str(r.attendance, r.cash, g.forms.thenewspaper.txtprofit.caption),
                   str(fans, 10 + 2 * fans, "£" + std::to_string(2 * fans)));

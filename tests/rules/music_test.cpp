@@ -30,9 +30,7 @@ class Songs : public testing::Office {
 
 TEST_F(Songs, RefusalsComeInOrderAndChangeNothing) {
     const Lines limit{testing::okbox("You have reached the limit of 20 songs!")};
-    r.membername[2] = r.membername[4] = "None";
-    r.songweeks = 5;
-    r.songcount = 20;
+    r.membername[2] = r.membername[4] = "None", r.songweeks = 5, r.songcount = 20;
     draws({0.5});  // must stay undrawn
     EXPECT_EQ(record(), limit);
     r.songcount = 19;
@@ -54,8 +52,7 @@ TEST_F(Songs, RestedBandStartsAtOnceTiredBandIsAskedAndYesCostsHappiness) {
     }
     const std::string tired = testing::yesno(
         "The band wants a rest before starting on a new song. Make them record anyway?", false);
-    r.tiredness = 1;
-    r.songweeks = 10;
+    r.tiredness = 1, r.songweeks = 10;
     set_happy(0, 10, 5, 1);
     pick(2, 4);
     no();
@@ -69,8 +66,7 @@ TEST_F(Songs, RestedBandStartsAtOnceTiredBandIsAskedAndYesCostsHappiness) {
 TEST_F(Songs, MakesongDrawsQualityInSlotOrderThenTirednessThenTitle) {
     // Slot 2 was left mid-song: its talent and creativity of 0 count 1 each.
     put(1, "Ann Vox", {.talent = 5, .creativity = 3});
-    r.membername[2] = "None";
-    r.membertalent[2] = r.membercreativity[2] = 0;
+    r.membername[2] = "None", r.membertalent[2] = r.membercreativity[2] = 0;
     put(3, "Cy Low", {.talent = 4, .creativity = 2});
     put(4, "Di Kit", {.talent = 2, .creativity = 1});
     songs({20, 20, 20});
@@ -96,8 +92,7 @@ TEST_F(Songs, MakesongDrawsQualityInSlotOrderThenTirednessThenTitle) {
 TEST_F(Songs, TheTurnThatFinishesASongLeavesTirednessOneToThree) {
     calm_chart();
     for (int tired : {0, 2}) {
-        r.songweeks = 1;
-        r.tiredness = 6;
+        r.songweeks = 1, r.tiredness = 6;
         for (int i = 0; i < 8; ++i) draws({0.5});
         pick(tired + 1, 3);
         draws({0.5, 0.5});
@@ -113,8 +108,7 @@ TEST_F(Songs, TheTurnThatFinishesASongLeavesTirednessOneToThree) {
 TEST_F(Songs, TrackListAndPickingASong) {
     EXPECT_EQ(click(g, "main", "songlist", 0), ClickResult::BadIndex);  // empty list
     songs({20, 20, 20});
-    g.forms.main.songlist.rows = {"stale"};
-    r.songcount = 2;
+    g.forms.main.songlist.rows = {"stale"}, r.songcount = 2;
     updatesonglist(g);
     EXPECT_EQ(g.forms.main.songlist.rows, (Lines{"Song 1", "Song 2"}));
     click(g, "main", "songlist", 1);
@@ -185,9 +179,7 @@ TEST_F(Label, VerdictTable) {
                 {300, 32000, kSigned}};
     for (const auto& row : rows) {
         r.songquality[2] = static_cast<Integer>(row.quality);
-        r.popularity = static_cast<Integer>(row.popularity);
-        r.signed_ = 0;
-        g.main.demosent = -1;
+        r.popularity = static_cast<Integer>(row.popularity), r.signed_ = 0, g.main.demosent = -1;
         g.main.selectedsong = 2;
         const bool goes_on = demo_verdict(g);
         EXPECT_EQ(memos(), row.line.empty() ? Lines{} : Lines{row.line}) << row.quality;
@@ -216,15 +208,12 @@ TEST_F(Label, VerdictJudgesTheSongPickedAtTheTurn) {
 }
 
 TEST_F(Label, ContractHoldsAt900AndEndsAt899BeforeThePromotion) {
-    r.signed_ = -1;
-    r.popularity = 900;
+    r.signed_ = -1, r.popularity = 900;
     contract_review(g);
     EXPECT_EQ(r.signed_, -1);
     // At 899 the contract goes before the Small promotion is paid, so the single gains no hype
     // even though the promotion lifts the band past 900.
-    r.popularity = 899;
-    r.released[1] = -1;
-    r.singledemand[1] = 500;
+    r.popularity = 899, r.released[1] = -1, r.singledemand[1] = 500;
     click(g, "main", "promote", 1);
     week_start();
     pick(2, 2);  // hype step: +0
@@ -239,10 +228,7 @@ TEST_F(Label, ContractHoldsAt900AndEndsAt899BeforeThePromotion) {
 
 TEST_F(Label, RejectedDemoEndsTheWeekAfterTheWages) {
     // A signed band with a single on sale, having played a gig this week.
-    r.signed_ = -1;
-    r.popularity = 1200;
-    r.released[2] = -1;
-    r.singlesales[2] = 33;
+    r.signed_ = -1, r.popularity = 1200, r.released[2] = -1, r.singlesales[2] = 33;
     g.forms.main.command4.enabled = false;
     click(g, "main", "songlist", 0);
     send();
@@ -266,8 +252,7 @@ class Singles : public testing::Office {
     void SetUp() override {
         calm_chart();
         songs({30, 12, 50, 20});
-        r.signed_ = -1;
-        r.popularity = 1000;
+        r.signed_ = -1, r.popularity = 1000;
     }
     /// A double click on a row of the track list (-1: the empty part), memos acknowledged.
     Lines dbl(int row) {
@@ -310,8 +295,7 @@ TEST_F(Singles, ReleaseTakes1500AndSetsDemand) {
 }
 
 TEST_F(Singles, SalesReportAndWhatNeedsTheContract) {
-    r.released[2] = -1;
-    r.singlesales[2] = 37;
+    r.released[2] = -1, r.singlesales[2] = 37;
     EXPECT_EQ(dbl(1), Lines{memo("Mona", "There were 37 sales of this song last week.")});
     r.signed_ = 0;  // without a contract nothing at all, released or not
     EXPECT_TRUE(dbl(1).empty());
@@ -325,10 +309,8 @@ TEST_F(Singles, SalesReportAndWhatNeedsTheContract) {
 TEST_F(Singles, RoyaltiesAreTwoFifthsOfTheSalesWithABoxForEverySingle) {
     const int hype[] = {0, 0, 0, 100, 0}, demand[] = {0, 0, 0, 5, 0};
     for (int k = 1; k <= 4; ++k) {
-        r.released[k] = -1;
-        r.singlehype[k] = static_cast<Integer>(hype[k]);
-        r.singledemand[k] = static_cast<Integer>(demand[k]);
-        r.chartsales[k] = 7 * k;
+        r.released[k] = -1, r.singlehype[k] = static_cast<Integer>(hype[k]);
+        r.singledemand[k] = static_cast<Integer>(demand[k]), r.chartsales[k] = 7 * k;
     }
     // 1 copy, 3 copies, 5 + 20 copies, 4 copies; each then loses demand.
     picks({{1, 20}, {1, 100}, {3, 20}, {50, 100}, {20, 20}, {3, 100}, {4, 20}, {1, 100}});
@@ -360,22 +342,16 @@ TEST_F(Singles, PromotionAddsHypeToReleasedSinglesAndTheTurnCapsItAt100) {
         week({{1, 20}, {1, 100}, {2, 2}});  // hype step +0
         EXPECT_EQ(str(r.singlehype[1], r.singlehype[2]), str(k * 2 + 1, 0));
     }
-    r.singlehype[1] = 98;
-    r.singledemand[1] = 200;
+    r.singlehype[1] = 98, r.singledemand[1] = 200;
     click(g, "main", "promote", 2);     // Medium: 103, then capped
     week({{1, 20}, {1, 100}, {1, 2}});  // 200 + 1 copies, then hype +1
     EXPECT_EQ(single(1), "hype 101 demand 199 sales 201, row The Wasps / Song 1 201 last 1");
 }
 
 TEST_F(Singles, ShelvedSingleOnlyMovesItsHype) {
-    r.signed_ = 0;
-    r.popularity = 500;
-    r.released[1] = r.released[3] = -1;
-    r.singlehype[1] = r.singlehype[2] = 10;
-    r.singledemand[1] = 300;
-    r.singlesales[1] = r.chartsales[1] = 40;
-    r.chartlastsales[1] = 12;
-    r.chartband[1] = "The Wasps";
+    r.signed_ = 0, r.popularity = 500, r.released[1] = r.released[3] = -1;
+    r.singlehype[1] = r.singlehype[2] = 10, r.singledemand[1] = 300;
+    r.singlesales[1] = r.chartsales[1] = 40, r.chartlastsales[1] = 12, r.chartband[1] = "The Wasps";
     click(g, "main", "promote", 3);  // High adds nothing without the contract
     for (const std::string& line : week({{1, 2}, {2, 2}}))
         EXPECT_EQ(line.find("msgbox ok"), std::string::npos);

@@ -94,13 +94,8 @@ TEST(SaveLayout, KnownGameLandsInItsRecords) {
     TestGame t;
     t.new_game("Café", "Sam");
     Module1& r = t.r;
-    r.popularity = 100;
-    r.signed_ = r.venueopen[5] = r.memberhappy[4] = -1;
-    r.chartlife[1] = 0x0102;
-    r.chartlife[20] = 333;
-    r.cash = -2;
-    r.chartdemand[70] = 149;
-    r.chartlife[70] = 250;
+    r.popularity = 100, r.signed_ = r.venueopen[5] = r.memberhappy[4] = -1, r.chartlife[1] = 0x0102;
+    r.chartlife[20] = 333, r.cash = -2, r.chartdemand[70] = 149, r.chartlife[70] = 250;
     const Bytes b = save_bytes(r);
     ASSERT_EQ(b.size(), 97152u);
     std::istringstream records(  // record: its bytes in hex; the rest of each record is zeros

@@ -18,8 +18,7 @@ TEST(Office, StartUpAndTheLabelsOfUpdate) {
     EXPECT_EQ(str(t.r.cash, t.r.songweeks, t.r.membername[4], t.r.malename[1] + t.r.surname[1]),
               "3000 10 None Aaron Johnson");
     t.new_game(" ", "Jo");  // one blank is a name
-    t.r.cash = -147;
-    t.r.gamedate = 37135 + 122;
+    t.r.cash = -147, t.r.gamedate = 37135 + 122;
     update(t.g);
     const OfficeForm& f = t.g.forms.main;
     EXPECT_EQ(str(f.txtname.caption, f.txtdate.caption, f.txtcash.caption),
@@ -58,9 +57,7 @@ TEST(Turn, DateVenuesResetsAndTheSongClock) {
     TestGame t;
     t.new_game();
     for (int v : {1, 2, 1, 2, 1}) t.pick(v, 2);  // venues 1, 3 and 5 open
-    t.r.interviewkind = 2;
-    t.g.forms.main.interview.enabled = true;
-    t.g.main.applicantsseen = 6;
+    t.r.interviewkind = 2, t.g.forms.main.interview.enabled = true, t.g.main.applicantsseen = 6;
     t.r.tiredness = t.r.memberill[2] = 1;  // counted down in every slot, vacant or not
     command6(t.g);
     const Module1& r = t.r;
