@@ -26,6 +26,8 @@ TEST(ParseLine, RefusedLinesSayWhy) {
         {"\"get\" cash", "unknown command \"get\""},
         {R"(input "abc)", "malformed string literal"},
         {R"(input "\ud800")", "malformed string literal"},
+        {"input \"\xC0\xAF\"", "malformed string literal"},  // an overlong form
+        {R"(input "\udfb8\ud83c")", "malformed string literal"},
         {"input Sam", "expected a JSON string literal"},
         {R"(input "a" "b")", "usage: input TEXT"},
         {"get membername -1", "index -1 out of bounds"},

@@ -105,23 +105,6 @@ TEST_F(Songs, TheTurnThatFinishesASongLeavesTirednessOneToThree) {
     }
 }
 
-TEST_F(Songs, TrackListAndPickingASong) {
-    EXPECT_EQ(click(g, "main", "songlist", 0), ClickResult::BadIndex);  // empty list
-    songs({20, 20, 20});
-    g.forms.main.songlist.rows = {"stale"}, r.songcount = 2;
-    updatesonglist(g);
-    EXPECT_EQ(g.forms.main.songlist.rows, (Lines{"Song 1", "Song 2"}));
-    click(g, "main", "songlist", 1);
-    EXPECT_EQ(g.main.selectedsong, 2);
-    message(g, "busy", "Dave");
-    EXPECT_EQ(click(g, "main", "songlist", 0), ClickResult::Ignored);  // a memo is open
-    ok_memos();
-    click(g, "main", "songlist", 0);
-    r.songcount = 0;
-    updatesonglist(g);
-    EXPECT_EQ(str(g.forms.main.songlist.rows.size(), g.main.selectedsong), "0 1");
-}
-
 const std::string kSigned =
     memo("Dave", "Superstar Records loved the demo tape and have signed the band!");
 const std::string kRejected = memo("Mona", "The record label rejected our demo tape.");

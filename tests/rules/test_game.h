@@ -61,16 +61,11 @@ class TestGame {
     }
 
     /// Puts a member into a slot directly.
-    void put(int slot, const std::string& name, Member m = {}) {
-        r.membername[slot] = name;
-        r.membertalent[slot] = static_cast<Integer>(m.talent);
-        r.membercharisma[slot] = static_cast<Integer>(m.charisma);
-        r.memberattitude[slot] = static_cast<Integer>(m.attitude);
-        r.memberlooks[slot] = static_cast<Integer>(m.looks);
-        r.membercreativity[slot] = static_cast<Integer>(m.creativity);
-        r.memberhappy[slot] = static_cast<Integer>(m.happy);
-        r.membersex[slot] = m.sex;
-        r.memberage[slot] = 20;
+    void put(int s, const std::string& name, Member m = {}) {
+        r.membername[s] = name, r.membersex[s] = m.sex, r.memberage[s] = 20;
+        r.membertalent[s] = Integer(m.talent), r.membercharisma[s] = Integer(m.charisma);
+        r.memberattitude[s] = Integer(m.attitude), r.memberlooks[s] = Integer(m.looks);
+        r.membercreativity[s] = Integer(m.creativity), r.memberhappy[s] = Integer(m.happy);
     }
 
     /// Fills all four slots with steady members (attitude 5 never misbehaves).
@@ -89,9 +84,7 @@ class TestGame {
     }
     /// `memberhappy` of slots 1 to 4, as "a b c d"; and setting them.
     std::string happiness() const {
-        std::string out;
-        for (int s = 1; s <= 4; ++s) out += (s > 1 ? " " : "") + std::to_string(r.memberhappy[s]);
-        return out;
+        return str(r.memberhappy[1], r.memberhappy[2], r.memberhappy[3], r.memberhappy[4]);
     }
     void set_happy(int a, int b, int c, int d) {
         r.memberhappy = {0, Integer(a), Integer(b), Integer(c), Integer(d)};
@@ -100,11 +93,7 @@ class TestGame {
     /// Songs 1, 2, ... of the given qualities, on the track list.
     void songs(const std::vector<int>& qualities) {
         int k = 0;
-        for (int q : qualities) {
-            ++k;
-            r.songname[k] = "Song " + std::to_string(k);
-            r.songquality[k] = static_cast<Integer>(q);
-        }
+        for (int q : qualities) ++k, r.songname[k] = str("Song", k), r.songquality[k] = Integer(q);
         r.songcount = r.nextsong = static_cast<Integer>(k);
         updatesonglist(g);
     }
@@ -126,15 +115,11 @@ class TestGame {
     /// "Pool k" with fame k.
     void calm_chart() {
         for (int row = 20; row <= 70; ++row) {
-            r.chartband[row] = "Rival " + std::to_string(row);
-            r.charttitle[row] = "Hit " + std::to_string(row);
+            r.chartband[row] = str("Rival", row), r.charttitle[row] = str("Hit", row);
             r.chartfame[row] = 10, r.chartquality[row] = 50, r.chartdemand[row] = 100;
             r.chartlife[row] = 30000, r.chartsales[row] = row, r.chartlastsales[row] = 0;
         }
-        for (int k = 0; k <= 50; ++k) {
-            r.rivalname[k] = "Pool " + std::to_string(k);
-            r.rivalfame[k] = static_cast<Integer>(k);
-        }
+        for (int k = 0; k <= 50; ++k) r.rivalname[k] = str("Pool", k), r.rivalfame[k] = Integer(k);
     }
     /// Rival rows' steps that keep them running: demand +1, fame +1, life -1.
     void tick(int rows = 1) {
@@ -143,8 +128,7 @@ class TestGame {
     /// A full band's week up to the label's answer: no practice, wages of 1 each, venues open.
     void week_start() {
         no();
-        for (int i = 0; i < 4; ++i) pick(1, 3);
-        for (int i = 0; i < 5; ++i) pick(1, 2);
+        picks({{1, 3}, {1, 3}, {1, 3}, {1, 3}, {1, 2}, {1, 2}, {1, 2}, {1, 2}, {1, 2}});
     }
     /// The rest of a full band's week after the singles: nobody ill, no press item, no
     /// invitation (drawn above 200 popularity), and a calm chart step.
