@@ -185,7 +185,7 @@ DiaryWindow::DiaryWindow(const Game& g)
     entries_->header()->setSectionsMovable(false);
     entries_->header()->setStretchLastSection(true);
     // A long message wraps over more lines when the window narrows.
-    connect(entries_->header(), &QHeaderView::sectionResized, entries_,
+    connect(entries_->header(), &QHeaderView::sectionResized, this,
             [this] { entries_->doItemsLayout(); });
 
     count_->setProperty("role", "readout");
@@ -229,6 +229,14 @@ DiaryWindow::DiaryWindow(const Game& g)
         search_->selectAll();
     });
     show_count();
+}
+
+DiaryWindow::~DiaryWindow() {
+    // The widgets below go after this part of the window: none of them may call back into it.
+    for (QObject* sender :
+         {static_cast<QObject*>(entries_->header()), static_cast<QObject*>(filter_),
+          static_cast<QObject*>(senders_), static_cast<QObject*>(search_)})
+        sender->disconnect(this);
 }
 
 void DiaryWindow::refresh() {

@@ -22,6 +22,7 @@ class DiaryWindow : public QWidget {
     Q_OBJECT
   public:
     explicit DiaryWindow(const Game& g);
+    ~DiaryWindow() override;
 
     /// Takes in the entries written since the last call (only while the window is open).
     void refresh();
