@@ -14,6 +14,7 @@
 #include "music/singles.h"
 #include "music/songs.h"
 #include "saves/save_screen.h"
+#include "screens/diary.h"
 #include "screens/office.h"
 #include "screens/ui.h"
 #include "week/turn.h"
@@ -39,7 +40,7 @@ constexpr std::array kRules{
     Rule{"Form1", "New", plain<Form1_New>, nullptr},
     Rule{"Form1", "Label4", plain<Form1_Label4>, nullptr},
     Rule{"Form1", "load", plain<Form1_load>, nullptr},
-    Rule{"main", "command6", plain<command6>, nullptr},
+    Rule{"main", "command6", plain<next_week_click>, nullptr},
     Rule{"main", "label13", plain<label13>, nullptr},
     Rule{"main", "command4", plain<command4>, nullptr},
     Rule{"main", "secret", plain<secret>, nullptr},
@@ -75,27 +76,6 @@ const Rule* find_rule(std::string_view form, std::string_view control) {
     return nullptr;
 }
 
-/// Calls f(form) with the typed form of that name; false if there is none.
-template <class F>
-bool with_form(Game& g, std::string_view name, F&& f) {
-    bool found = false;
-    auto visit = [&](auto& form) {
-        if (!found && name == form.name) {
-            found = true;
-            f(form);
-        }
-    };
-    Forms& fs = g.forms;
-    visit(fs.Form1);
-    visit(fs.main);
-    visit(fs.messageForm);
-    visit(fs.gig);
-    visit(fs.thenewspaper);
-    visit(fs.savefrm);
-    visit(fs.Chart);
-    return found;
-}
-
 bool is_list(const Control& c) {
     return c.kind == ControlKind::ListBox || c.kind == ControlKind::ComboBox;
 }
@@ -109,7 +89,7 @@ struct Target {
 /// Resolves FORM.CONTROL with an array index or a list row.
 Target resolve(Game& g, std::string_view form_name, std::string_view name, int index) {
     Target t;
-    bool known_form = with_form(g, form_name, [&](auto& form) {
+    bool known_form = with_form(g.forms, form_name, [&](auto& form) {
         t.form = &form;
         if (is_control_array(form, name)) {
             t.control = find_control(form, name, index);
@@ -138,13 +118,13 @@ bool takes_clicks(const Target& t) {
 
 FormState* find_form(Game& g, std::string_view form) {
     FormState* found = nullptr;
-    with_form(g, form, [&](auto& f) { found = &f; });
+    with_form(g.forms, form, [&](auto& f) { found = &f; });
     return found;
 }
 
 Control* find_control(Game& g, std::string_view form, std::string_view control, int index) {
     Control* found = nullptr;
-    with_form(g, form, [&](auto& f) { found = find_control(f, control, index); });
+    with_form(g.forms, form, [&](auto& f) { found = find_control(f, control, index); });
     return found;
 }
 
@@ -157,7 +137,7 @@ ClickResult click(Game& g, std::string_view form, std::string_view control, int 
     if (is_list(*t.control)) t.control->selected = index;
     if (t.control->kind == ControlKind::Option) {
         // An option button marks itself and clears the others of its group.
-        with_form(g, form, [&](auto& f) {
+        with_form(g.forms, form, [&](auto& f) {
             f.each([&](Control& c) {
                 if (control == c.name) c.value = c.index == index;
             });

@@ -196,6 +196,19 @@ struct Forms {
     }
 };
 
+/// Calls f(form) with the typed form of that name; false if there is none.
+template <class F>
+bool with_form(Forms& forms, std::string_view name, F&& f) {
+    bool found = false;
+    forms.each_form([&](auto& form) {
+        if (!found && name == form.name) {
+            found = true;
+            f(form);
+        }
+    });
+    return found;
+}
+
 /// Finds a control by its name and index (-1 for a single control); nullptr if none.
 template <class FormT>
 Control* find_control(FormT& form, std::string_view name, int index) {

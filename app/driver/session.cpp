@@ -36,21 +36,6 @@ constexpr std::array kRoutines{
     Routine{"events", events},
 };
 
-/// Calls f with the typed form of that name, if there is one.
-template <class F>
-void with_form(Forms& fs, std::string_view name, F&& f) {
-    auto visit = [&](auto& form) {
-        if (name == form.name) f(form);
-    };
-    visit(fs.Form1);
-    visit(fs.main);
-    visit(fs.messageForm);
-    visit(fs.gig);
-    visit(fs.thenewspaper);
-    visit(fs.savefrm);
-    visit(fs.Chart);
-}
-
 bool is_control_array(Game& g, std::string_view form, std::string_view control) {
     bool array = false;
     with_form(g.forms, form, [&](auto& f) { array = tourvane::is_control_array(f, control); });
@@ -179,6 +164,16 @@ void Session::execute(const Command& c) {
             break;
         case Verb::Form:
             do_form(c);
+            break;
+        case Verb::Diary:
+            for (const DiaryEntry& e : g.diary)
+                print("diary " + format_date(e.date) + " " + json_quote(e.from) + " " +
+                      json_quote(e.text));
+            break;
+        case Verb::History:
+            for (const WeekSample& s : g.history)
+                print("week " + format_date(s.date) + " " + std::to_string(s.cash) + " " +
+                      std::to_string(s.popularity));
             break;
     }
 }

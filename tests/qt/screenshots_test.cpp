@@ -6,6 +6,7 @@
 #include <QtTest>
 
 #include "qt_harness.h"
+#include "screens/diary.h"
 #include "screens/ui.h"
 
 using tourvane::testing::Harness;
@@ -95,6 +96,62 @@ class ScreenshotsTest : public QObject {
                  QColor(255, 255, 0));
         h.click("main", "promote(3)");
         QCOMPARE(h.g.rec.promotion, 4);
+    }
+
+    void sideWindows() {
+        // The diary and the week graph after twenty weeks of play and a load, opened by key;
+        // then the graph of a single week and of a thousand.
+        Harness h(7);
+        h.game_under_way();
+        h.buttons = {QMessageBox::Ok};
+        h.click("main", "command5");
+        h.click("savefrm", "save");
+        for (int week = 0; week < 20; ++week) {
+            if (week == 12) {
+                h.click("main", "command5");
+                h.click("savefrm", "load");
+            }
+            h.click("main", "command6");
+            while (h.view("messageForm")->isVisible()) h.click("messageForm", "command1");
+        }
+        tourvane::message(h.g,
+                          "Kim Vale has decided to leave the band! The rest of the band is in a "
+                          "state of shock.",
+                          "Mona");
+        h.windows->refresh();
+        h.click("messageForm", "command1");
+        tourvane::SideWindows& side = h.windows->side();
+        auto office_key = [&](Qt::Key key, QWidget& opens) {
+            h.view("main")->activateWindow();
+            QVERIFY(QTest::qWaitForWindowActive(h.view("main")));
+            QTest::keyClick(h.view("main"), key);
+            QVERIFY(opens.isVisible());
+        };
+        office_key(Qt::Key_D, side.diary());
+        side.diary().resize(560, 420);  // narrow enough for the long memo to take two lines
+        shoot(&side.diary(), "diary.png");
+        office_key(Qt::Key_G, side.graph());
+        tourvane::WeekGraphView* graph = side.graph().view();
+        const QPoint at = graph->cash_at(8).toPoint();
+        QMouseEvent move(QEvent::MouseMove, at, graph->mapToGlobal(at), Qt::NoButton, Qt::NoButton,
+                         Qt::NoModifier);
+        QApplication::sendEvent(graph, &move);
+        shoot(&side.graph(), "weekgraph.png");
+        office_key(Qt::Key_F1, side.keys());
+        shoot(&side.keys(), "keyhelp.png");
+
+        tourvane::Game& g = h.g;
+        g.history.assign(1, {tourvane::kStartDate + 7, 2990, 2, 0});
+        g.segments.assign(1, {tourvane::kStartDate, 3000, 0, 0});
+        side.graph().refresh();
+        shoot(&side.graph(), "weekgraph_1.png");
+        g.history.clear();
+        for (int week = 1; week <= 1000; ++week)
+            g.history.push_back({tourvane::kStartDate + 7 * week,
+                                 static_cast<tourvane::Long>(3000 + 40 * week - (week % 9) * 300),
+                                 static_cast<tourvane::Integer>(week / 2 + week % 13), 0});
+        side.graph().refresh();
+        shoot(&side.graph(), "weekgraph_1000.png");
     }
 };
 

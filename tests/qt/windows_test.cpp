@@ -118,6 +118,11 @@ class WindowsTest : public QObject {
             QCOMPARE(w, spot);
             w = w->nextInFocusChain();
         }
+        // D, G and F1 open the side windows: no hot-spot takes them.
+        for (const auto& [key, sequence] : tourvane::office_keys())
+            for (QKeySequence taken :
+                 {QKeySequence(Qt::Key_D), QKeySequence(Qt::Key_G), QKeySequence(Qt::Key_F1)})
+                QVERIFY(sequence != taken);
         QTest::keyClick(main, Qt::Key_N);
         QCOMPARE(h.text("main", "txtdate"), week_later());
         QVERIFY(lamp_lit(h, office.secret));
