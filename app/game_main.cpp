@@ -3,20 +3,26 @@
 #include <QApplication>
 #include <QIcon>
 #include <QStyleFactory>
-#include <cstring>
 #include <memory>
 
 #include "app/startup_probe.h"
-
 #include "screens/office.h"
+#include "screens/qt/command_line.h"
 #include "screens/qt/game_windows.h"
 #include "screens/qt/pictures.h"
 #include "screens/qt/qt_port.h"
 #include "state/game.h"
 
 int main(int argc, char** argv) {
-    const bool measure_startup = argc > 1 && std::strcmp(argv[1], "--measure-startup") == 0;
+    // --help, --version and a bad seed are answered before any window is needed; the rest is
+    // read again once Qt has taken its own options (-platform, -style ...) out of the list.
+    QStringList raw;
+    for (int i = 0; i < argc; ++i) raw << QString::fromLocal8Bit(argv[i]);
+    if (const auto early = tourvane::parse_command_line(raw); early.stop && !early.maybe_qt)
+        return tourvane::print_and_stop(early);
     QApplication app(argc, argv);
+    const tourvane::CommandLine options = tourvane::parse_command_line(QApplication::arguments());
+    if (options.stop) return tourvane::print_and_stop(options);
     QApplication::setApplicationName("Tourvane");
     QApplication::setApplicationDisplayName("Tourvane");
     QApplication::setDesktopFileName("io.github.tourvane.Tourvane");
@@ -27,12 +33,13 @@ int main(int argc, char** argv) {
 
     tourvane::QtPort port;
     tourvane::Game game(port);
-    tourvane::load_main(game);
+    tourvane::load_main(game, options.seed);
     tourvane::GameWindows windows(game);
     QObject::connect(&windows, &tourvane::GameWindows::ended, &app, &QApplication::quit,
                      Qt::QueuedConnection);
     std::unique_ptr<tourvane::StartupProbe> probe;
-    if (measure_startup) probe = std::make_unique<tourvane::StartupProbe>(windows.view("Form1"));
+    if (options.measure_startup)
+        probe = std::make_unique<tourvane::StartupProbe>(windows.view("Form1"));
     windows.refresh();
     return QApplication::exec();
 }

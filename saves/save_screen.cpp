@@ -5,6 +5,7 @@
 #include "band/roster.h"
 #include "music/songs.h"
 #include "saves/save_file.h"
+#include "screens/diary.h"
 #include "screens/ui.h"
 
 namespace tourvane {
@@ -88,6 +89,7 @@ void savefrm_load(Game& g) {
         return;
     }
     g.rec = std::move(*loaded);
+    begin_segment(g);
     unload(g.forms.Form1);
     update(g);
     listupdate(g);

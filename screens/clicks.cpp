@@ -14,6 +14,7 @@
 #include "music/singles.h"
 #include "music/songs.h"
 #include "saves/save_screen.h"
+#include "screens/diary.h"
 #include "screens/office.h"
 #include "screens/ui.h"
 #include "week/turn.h"
@@ -39,7 +40,7 @@ constexpr std::array kRules{
     Rule{"Form1", "New", plain<Form1_New>, nullptr},
     Rule{"Form1", "Label4", plain<Form1_Label4>, nullptr},
     Rule{"Form1", "load", plain<Form1_load>, nullptr},
-    Rule{"main", "command6", plain<command6>, nullptr},
+    Rule{"main", "command6", plain<next_week_click>, nullptr},
     Rule{"main", "label13", plain<label13>, nullptr},
     Rule{"main", "command4", plain<command4>, nullptr},
     Rule{"main", "secret", plain<secret>, nullptr},

@@ -3,11 +3,13 @@
 #include <cmath>
 
 #include "band/applicants.h"
+#include "screens/diary.h"
 #include "screens/office.h"
 
 namespace tourvane {
 
 Answer MsgBox(Game& g, std::string_view text, Buttons buttons, bool critical) {
+    note_in_diary(g, kBoxSender, text);
     return g.ui->msgbox(text, buttons, critical);
 }
 
@@ -31,6 +33,7 @@ void raise(Game& g, std::string_view text, std::string_view from, bool ends_game
     g.rec.messagetext = text;
     g.rec.messagefrom = from;
     g.memos.push_back({std::string(from), std::string(text), ends_game});
+    note_in_diary(g, from, text);
     g.ui->memo_raised(from, text);
     if (g.memos.size() == 1) show_front_memo(g);
     g.forms.main.enabled = false;

@@ -4,6 +4,7 @@
 
 #include <deque>
 #include <string>
+#include <vector>
 
 #include "screens/forms.h"
 #include "screens/ui_port.h"
@@ -16,6 +17,21 @@ struct Memo {
     std::string from;
     std::string text;
     bool ends_game = false;
+};
+
+/// One thing the office told the player: a memo, or a box from "Tourvane".
+struct DiaryEntry {
+    Date date = 0;  ///< the game date when it was shown
+    std::string from;
+    std::string text;
+};
+
+/// Cash and popularity at one moment of the run.
+struct WeekSample {
+    Date date = 0;
+    Long cash = 0;
+    Integer popularity = 0;
+    int segment = 0;  ///< the stretch of play: 0 from start-up, one more after each load
 };
 
 struct Game {
@@ -36,6 +52,16 @@ struct Game {
 
     /// The program has ended (EXIT, quit, or OK on the memo that ends the game).
     bool ended = false;
+
+    /// Every memo and box of this run in the order shown, loads and the new game included.
+    std::vector<DiaryEntry> diary;
+
+    /// The end of every week played through Next Week in this run, oldest first.
+    std::vector<WeekSample> history;
+
+    /// Where each stretch of play begins: the start-up, then each load. Segment k of
+    /// `history` starts at segments[k].
+    std::vector<WeekSample> segments;
 };
 
 }  // namespace tourvane

@@ -33,6 +33,8 @@ constexpr std::array kVerbs{
     VerbInfo{"dump", Verb::Dump, "dump"},
     VerbInfo{"control", Verb::Control, "control FORM.CONTROL [INDEX]"},
     VerbInfo{"form", Verb::Form, "form FORM"},
+    VerbInfo{"diary", Verb::Diary, "diary"},
+    VerbInfo{"history", Verb::History, "history"},
 };
 
 const VerbInfo* find_verb(std::string_view word) {
@@ -206,6 +208,8 @@ ParsedLine parse_line(std::string_view line) {
             break;
         case Verb::RndLeft:
         case Verb::Dump:
+        case Verb::Diary:
+        case Verb::History:
             if (n != 0) return fail(std::move(out), usage());
             break;
     }

@@ -25,6 +25,8 @@ enum class Verb {
     Dump,
     Control,
     Form,
+    Diary,
+    History,
 };
 
 /// A word of a line as written, or a JSON string literal (with its quotes).

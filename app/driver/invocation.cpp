@@ -15,7 +15,8 @@ prints what the player would see, one line per event. The working directory is t
 bands.dat and the save files are read and written there.
 
 Options:
-  --seed N   seed the fallback random draws with the whole number N (default: the clock)
+  --seed N   seed the fallback random draws with the whole number N (default: the clock);
+             the same seed and the same script give the same game and the same transcript
   --help     print this text and exit
 
 Commands, one per line (# starts a comment; TEXT is a JSON string literal):
@@ -32,6 +33,10 @@ Commands, one per line (# starts a comment; TEXT is a JSON string literal):
   dump                            print every field
   control FORM.CONTROL [INDEX]    print the state of a control
   form FORM                       print whether a screen is loaded, visible and enabled
+  diary                           print every memo and box of this run, oldest first:
+                                    diary DD/MM/YYYY "FROM" "TEXT"  (boxes are from "Tourvane")
+  history                         print cash and popularity at the end of every week played:
+                                    week DD/MM/YYYY CASH POPULARITY
 
 Exit status: 0 when the script ran out or the program ended, 1 when any command printed an
 error line, 2 for a bad command line.

@@ -165,6 +165,16 @@ void Session::execute(const Command& c) {
         case Verb::Form:
             do_form(c);
             break;
+        case Verb::Diary:
+            for (const DiaryEntry& e : g.diary)
+                print("diary " + format_date(e.date) + " " + json_quote(e.from) + " " +
+                      json_quote(e.text));
+            break;
+        case Verb::History:
+            for (const WeekSample& s : g.history)
+                print("week " + format_date(s.date) + " " + std::to_string(s.cash) + " " +
+                      std::to_string(s.popularity));
+            break;
     }
 }
 

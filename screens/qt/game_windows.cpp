@@ -75,6 +75,7 @@ GameWindows::GameWindows(Game& g) : g_(g) {
         connect(view, &FormView::controlDoubleClicked, this,
                 [this, view](const Control* c, int row) { forward(view, c, row, true); });
     }
+    side_ = std::make_unique<SideWindows>(g, *view("main"));
     qApp->installEventFilter(this);
 }
 
@@ -107,6 +108,7 @@ void GameWindows::forward(FormView* view, const Control* control, int index, boo
     if (g_.ended && !ended_) {
         ended_ = true;
         for (auto& v : views_) v->hide();
+        side_->close_all();
         shown_.clear();
         emit ended();
     }
@@ -135,6 +137,7 @@ void GameWindows::refresh() {
     }
     // A memo stays in front of the office it has disabled.
     if (FormView* memo = view("messageForm"); memo->isVisible()) bring_forward(memo);
+    side_->refresh();
 }
 
 void GameWindows::show_view(FormView* view) {

@@ -9,6 +9,7 @@
 #include <vector>
 
 #include "screens/qt/form_view.h"
+#include "screens/qt/side_windows.h"
 #include "state/game.h"
 
 namespace tourvane {
@@ -28,6 +29,9 @@ class GameWindows : public QObject {
 
     Game& game() { return g_; }
 
+    /// The diary, the week graph and the key help, opened from the office.
+    SideWindows& side() { return *side_; }
+
   signals:
     /// The program has ended: EXIT, quit, or the memo that ends the game acknowledged.
     void ended();
@@ -45,6 +49,7 @@ class GameWindows : public QObject {
 
     Game& g_;
     std::vector<std::unique_ptr<FormView>> views_;
+    std::unique_ptr<SideWindows> side_;
     std::vector<FormView*> shown_;        ///< windows on show, in the order they were opened
     std::vector<FormView*> placed_;       ///< windows that stay where the player left them
     std::vector<unsigned> forward_seen_;  ///< per view, the form's forward requests handled

@@ -7,37 +7,21 @@
 namespace tourvane::driver {
 namespace {
 
-Invocation parse(std::vector<std::string_view> args) {
-    return parse_invocation(args);
-}
+using Args = std::vector<std::string_view>;
 
-TEST(Invocation, ReadsSeedAndFile) {
-    Invocation inv = parse({"--seed", "18446744073709551615", "game.tvs"});
+TEST(Invocation, ReadsSeedAndFileAndSaysWhyABadLineIsBad) {
+    Invocation inv = parse_invocation(Args{"--seed", "18446744073709551615", "game.tvs"});
     EXPECT_EQ(inv.error, "");
     EXPECT_EQ(inv.seed, UINT64_MAX);
     EXPECT_EQ(inv.file, "game.tvs");
-    inv = parse({});
-    EXPECT_EQ(inv.error, "");
-    EXPECT_FALSE(inv.seed);
-    EXPECT_EQ(inv.file, "");
-    EXPECT_TRUE(parse({"--help"}).help);
-    EXPECT_EQ(parse({"-"}).file, "-");  // standard input
-}
-
-TEST(Invocation, BadCommandLinesSayWhy) {
-    for (std::vector<std::string_view> bad : {
-             std::vector<std::string_view>{"--seed"},
-             {"--seed", "-1"},
-             {"--seed", "x"},
-             {"--seed", "18446744073709551616"},
-             {"--seed", "1", "--seed", "2"},
-             {"--bogus"},
-             {"a.tvs", "b.tvs"},
-         })
-        EXPECT_NE(parse(bad).error, "") << bad.size();
-}
-
-TEST(Invocation, UsageNamesEveryCommand) {
+    inv = parse_invocation(Args{});
+    EXPECT_TRUE(inv.error.empty() && !inv.seed && inv.file.empty());
+    EXPECT_TRUE(parse_invocation(Args{"--help"}).help);
+    EXPECT_EQ(parse_invocation(Args{"-"}).file, "-");  // standard input
+    for (Args bad : {Args{"--seed"}, Args{"--seed", "-1"}, Args{"--seed", "x"},
+                     Args{"--seed", "18446744073709551616"}, Args{"--seed", "1", "--seed", "2"},
+                     Args{"--bogus"}, Args{"a.tvs", "b.tvs"}})
+        EXPECT_NE(parse_invocation(bad).error, "") << bad.size();
     for (const char* verb : {"rnd ", "rndleft", "answer ", "input ", "automemo ", "click ",
                              "dblclick ", "call ", "get ", "set ", "dump", "control ", "form "})
         EXPECT_NE(usage().find(std::string("\n  ") + verb), std::string_view::npos) << verb;

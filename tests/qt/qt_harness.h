@@ -132,31 +132,20 @@ class Harness {
   private:
     void answer(QDialog& box) {
         if (auto* input = qobject_cast<QInputDialog*>(&box)) {
-            boxes.push_back(
-                {true, input->windowTitle(), input->labelText(), QMessageBox::NoIcon, {}});
-            std::optional<QString> reply;
-            if (texts.empty())
-                ++unanswered;
-            else
-                reply = texts.front(), texts.pop_front();
-            if (reply) {
-                input->setTextValue(*reply);
-                input->accept();
-            } else {
-                input->reject();
-            }
-            return;
+            boxes.push_back({true, input->windowTitle(), input->labelText(), {}, {}});
+            if (texts.empty()) ++unanswered;
+            const std::optional<QString> reply = texts.empty() ? std::nullopt : texts.front();
+            if (!texts.empty()) texts.pop_front();
+            if (reply) input->setTextValue(*reply);
+            reply ? input->accept() : input->reject();
+        } else if (auto* message = qobject_cast<QMessageBox*>(&box)) {
+            boxes.push_back({false, message->windowTitle(), message->text(), message->icon(),
+                             message->standardButtons()});
+            if (buttons.empty()) ++unanswered;
+            const auto reply = buttons.empty() ? QMessageBox::Ok : buttons.front();
+            if (!buttons.empty()) buttons.pop_front();
+            if (QAbstractButton* b = message->button(reply)) b->click();
         }
-        auto* message = qobject_cast<QMessageBox*>(&box);
-        if (!message) return;
-        boxes.push_back({false, message->windowTitle(), message->text(), message->icon(),
-                         message->standardButtons()});
-        QMessageBox::StandardButton reply = QMessageBox::Ok;
-        if (buttons.empty())
-            ++unanswered;
-        else
-            reply = buttons.front(), buttons.pop_front();
-        if (QAbstractButton* b = message->button(reply)) b->click();
     }
 };
 

@@ -1,45 +1,34 @@
-// The music chart: the rival rows' weekly step, and the chart screen's ranking and list.
+// The music chart: the rival rows' weekly step, the chart screen's ranking and list, and the
+// rival bands file with where it is found and what it sets up.
+#include <fstream>
+
+#include "music/bands.h"
 #include "music/chart.h"
-
-#include <tuple>
-#include <utility>
-
 #include "music/singles.h"
-#include "music_week.h"
+#include "saves/record_file.h"
+#include "temp_dir.h"
+#include "test_game.h"
 
 namespace tourvane {
 namespace {
 
-using testing::draw;
-using testing::okbox;
-using testing::TestGame;
-using testing::tick;
+using Bytes = std::vector<std::uint8_t>;
+using testing::Lines;
+using testing::str;
 
-class ChartStep : public ::testing::Test {
+class ChartStep : public testing::Office {
   protected:
-    TestGame t;
-    void SetUp() override {
-        t.new_game();
-        testing::calm_chart(t);
-    }
+    void SetUp() override { calm_chart(); }
     void row(int i, int demand, int fame, int life, Long sales = 0) {
-        t.r.chartdemand[i] = static_cast<Integer>(demand);
-        t.r.chartfame[i] = static_cast<Integer>(fame);
-        t.r.chartlife[i] = static_cast<Integer>(life);
-        t.r.chartsales[i] = sales;
+        r.chartdemand[i] = static_cast<Integer>(demand);
+        r.chartfame[i] = static_cast<Integer>(fame), r.chartlife[i] = static_cast<Integer>(life);
+        r.chartsales[i] = sales;
     }
-    /// Queues draws giving Int(Rnd()*n) = x for each pair {x, n}.
-    void pin(std::initializer_list<std::pair<int, int>> xs) {
-        for (auto [x, n] : xs) draw(t, x, n);
-    }
-    /// A row in one line.
+    /// A row as "band / title: demand fame quality life sales last".
     std::string at(int i) {
-        const Module1& r = t.r;
-        return r.chartband[i] + " / " + r.charttitle[i] + ": demand " +
-               std::to_string(r.chartdemand[i]) + " fame " + std::to_string(r.chartfame[i]) +
-               " quality " + std::to_string(r.chartquality[i]) + " life " +
-               std::to_string(r.chartlife[i]) + " sales " + std::to_string(r.chartsales[i]) +
-               " last " + std::to_string(r.chartlastsales[i]);
+        return r.chartband[i] + " / " + r.charttitle[i] + ": " +
+               str(r.chartdemand[i], r.chartfame[i], r.chartquality[i], r.chartlife[i],
+                   r.chartsales[i], r.chartlastsales[i]);
     }
 };
 
@@ -48,173 +37,229 @@ TEST_F(ChartStep, EachRowDrawsDemandFameAndLifeInTurn) {
     row(22, 3, 2, 300, 9);    // both falls, floored at 0
     row(23, 28, 5, 100);      // 29/100 of 100 in double precision is just below 29
     row(24, -5, 5, 300);      // a demand at or below 0 is lifted to 1 first
-    tick(t);
-    pin({{0, 2}, {3, 5}, {1, 2}, {0, 10}, {49, 100}});
-    pin({{1, 2}, {4, 5}, {1, 2}, {9, 10}, {0, 100}});
-    tick(t);
-    pin({{1, 2}, {0, 5}, {0, 2}, {0, 3}, {0, 100}});
-    tick(t, 46);
-    chart_step(t.g);
-    EXPECT_EQ(t.g.rnd.queued_left(), 0u);
-    EXPECT_EQ(at(21), "Rival 21 / Hit 21: demand 44 fame 8 quality 50 life 250 sales 132 last 55");
-    EXPECT_EQ(at(22), "Rival 22 / Hit 22: demand 0 fame 0 quality 50 life 299 sales 0 last 9");
-    EXPECT_EQ(at(23), "Rival 23 / Hit 23: demand 29 fame 6 quality 50 life 99 sales 28 last 0");
-    EXPECT_EQ(at(24), "Rival 24 / Hit 24: demand 2 fame 6 quality 50 life 299 sales 6 last 0");
-
+    tick();
+    picks({{1, 2}, {4, 5}, {2, 2}, {1, 10}, {50, 100}});
+    picks({{2, 2}, {5, 5}, {2, 2}, {10, 10}, {1, 100}});
+    tick();
+    picks({{2, 2}, {1, 5}, {1, 2}, {1, 3}, {1, 100}});
+    tick(46);
+    chart_step(g);
+    EXPECT_EQ(g.rnd.queued_left(), 0u);
+    EXPECT_EQ(at(21), "Rival 21 / Hit 21: 44 8 50 250 132 55");
+    EXPECT_EQ(at(22), "Rival 22 / Hit 22: 0 0 50 299 0 9");
+    EXPECT_EQ(at(23), "Rival 23 / Hit 23: 29 6 50 99 28 0");
+    EXPECT_EQ(at(24), "Rival 24 / Hit 24: 2 6 50 299 6 0");
     // Next week the row at demand 0 is lifted to 1 before it moves.
-    tick(t, 2);
-    pin({{1, 2}, {0, 5}, {0, 2}, {0, 3}, {0, 100}});
-    tick(t, 48);
-    chart_step(t.g);
-    EXPECT_EQ(t.g.rnd.queued_left(), 0u);
-    EXPECT_EQ(at(22), "Rival 22 / Hit 22: demand 2 fame 1 quality 50 life 298 sales 5 last 0");
+    tick(2);
+    picks({{2, 2}, {1, 5}, {1, 2}, {1, 3}, {1, 100}});
+    tick(48);
+    chart_step(g);
+    EXPECT_EQ(at(22), "Rival 22 / Hit 22: 2 1 50 298 5 0");
 }
 
 TEST_F(ChartStep, SpentRowsTakeANewRecordFromThePool) {
-    t.r.rivalfame[0] = 13;
+    r.rivalfame[0] = 13;
     row(20, 100, 10, 30, 4);
     row(70, 100, 10, 1, 4);
     // Row 20 sells this week, runs out, and takes pool entry 0 with the lowest draws.
-    pin({{0, 2}, {0, 5}, {0, 2}, {0, 3}, {29, 100}});
-    pin({{0, 51}, {0, 100}, {0, 20}, {5, 20}, {44, 45}});
-    tick(t, 49);
+    picks({{1, 2}, {1, 5}, {1, 2}, {1, 3}, {30, 100}});
+    picks({{1, 51}, {1, 100}, {1, 20}, {6, 20}, {45, 45}});
+    tick(49);
     // Row 70: the highest draws; the pick still lands on entry 50, never on the empty 51.
-    pin({{0, 2}, {0, 5}, {0, 2}, {0, 3}, {99, 100}});
-    t.draws({0.99999999});
-    pin({{99, 100}, {19, 20}, {19, 20}, {0, 45}});
-    chart_step(t.g);
-    EXPECT_EQ(t.g.rnd.queued_left(), 0u);
-    EXPECT_EQ(at(20), "Pool 0 / Wild Love: demand 50 fame 13 quality 74 life 309 sales 0 last 0");
-    EXPECT_EQ(at(70),
-              "Pool 50 / Shocked Feelings: demand 149 fame 50 quality 30 life 170 sales 0 last 0");
-    EXPECT_EQ(t.r.rivalname[51], "");
+    picks({{1, 2}, {1, 5}, {1, 2}, {1, 3}, {100, 100}});
+    draws({0.99999999});
+    picks({{100, 100}, {20, 20}, {20, 20}, {1, 45}});
+    chart_step(g);
+    EXPECT_EQ(g.rnd.queued_left(), 0u);
+    EXPECT_EQ(at(20), "Pool 0 / Wild Love: 50 13 74 309 0 0");
+    EXPECT_EQ(at(70), "Pool 50 / Shocked Feelings: 149 50 30 170 0 0");
 }
 
 TEST_F(ChartStep, PlayerRowsStandStillAndRowTwentyIsARivalRow) {
-    t.r.chartband[5] = "The Wasps";
-    t.r.chartsales[5] = 77;
-    t.r.chartlastsales[5] = 60;
+    r.chartband[5] = "The Wasps", r.chartsales[5] = 77, r.chartlastsales[5] = 60;
     const std::string row5 = at(5);
-
     // Song 20 on sale writes row 20, which the same week's step then moves as a rival row.
-    testing::add_songs(t, std::vector<int>(20, 10));
-    t.r.signed_ = -1;
-    t.r.released[20] = -1;
+    songs(std::vector<int>(20, 10));
+    r.signed_ = -1, r.released[20] = -1;
     row(20, 100, 10, 300, 20);
-    draw(t, 4, 20);  // 5 copies
-    draw(t, 0, 100);
-    singles_phase(t.g);
-    EXPECT_EQ(t.take(), std::vector<std::string>{okbox("£2")});
-    EXPECT_EQ(at(20),
-              "The Wasps / Song 20: demand 100 fame 10 quality 50 life 300 sales 5 last 20");
-
-    tick(t, 51);
-    chart_step(t.g);
-    EXPECT_EQ(t.g.rnd.queued_left(), 0u);
-    EXPECT_EQ(at(20),
-              "The Wasps / Song 20: demand 101 fame 11 quality 50 life 299 sales 303 last 5");
+    picks({{5, 20}, {1, 100}});  // 5 copies
+    singles_phase(g);
+    EXPECT_EQ(at(20), "The Wasps / Song 20: 100 10 50 300 5 20");
+    tick(51);
+    chart_step(g);
+    EXPECT_EQ(g.rnd.queued_left(), 0u);
+    EXPECT_EQ(at(20), "The Wasps / Song 20: 101 11 50 299 303 5");
     EXPECT_EQ(at(5), row5);
 }
 
-// The chart screen. Row i sells i copies unless a test says otherwise.
-class ChartScreen : public ::testing::Test {
+// The chart screen. Row i is "Band i" with "Title i" and sells i copies unless a test says
+// otherwise.
+class ChartScreen : public testing::Office {
   protected:
-    TestGame t;
     void SetUp() override {
-        t.new_game();
-        EXPECT_EQ(click(t.g, "main", "secret"), ClickResult::Ignored);  // no full week yet
+        EXPECT_EQ(click(g, "main", "secret"), ClickResult::Ignored);  // no full week yet
         for (int i = 1; i <= 70; ++i) {
-            t.r.chartband[i] = "Band " + std::to_string(i);
-            t.r.charttitle[i] = "Title " + std::to_string(i);
-            t.r.chartsales[i] = i;
+            r.chartband[i] = "Band " + std::to_string(i);
+            r.charttitle[i] = "Title " + std::to_string(i), r.chartsales[i] = i;
         }
-        t.g.forms.main.secret.enabled = true;
+        g.forms.main.secret.enabled = true;
     }
-    void open() { ASSERT_EQ(click(t.g, "main", "secret"), ClickResult::Done); }
-    const Control& line(int place) { return t.g.forms.Chart.track[place]; }
-    /// The captions of places 1 to n.
-    std::vector<std::string> top(int n) {
-        std::vector<std::string> out;
-        for (int p = 1; p <= n; ++p) out.push_back(line(p).caption);
+    void open() { ASSERT_EQ(click(g, "main", "secret"), ClickResult::Done); }
+    const Control& line(int place) { return g.forms.Chart.track[place]; }
+    /// The lines of places 1 to n, a row's line shown by its number.
+    std::string top(int n) {
+        std::string out;
+        for (int p = 1; p <= n; ++p) {
+            const std::string& c = line(p).caption;
+            out += (p > 1 ? " " : "") + (c.rfind("Band ", 0) ? c : c.substr(5, c.find(' ', 5) - 5));
+        }
         return out;
-    }
-    std::string shows(int row) {
-        return "Band " + std::to_string(row) + " with Title " + std::to_string(row);
-    }
-    /// Opens the chart with these rows' sales, and checks their sales and places afterwards.
-    void rank(std::initializer_list<std::pair<int, Long>> sales,
-              std::initializer_list<std::tuple<int, Long, int>> row_sales_place) {
-        for (auto [row, s] : sales) t.r.chartsales[row] = s;
-        open();
-        for (auto [row, s, place] : row_sales_place) {
-            SCOPED_TRACE(row);
-            EXPECT_EQ(t.r.chartsales[row], s);
-            EXPECT_EQ(t.r.chartplace[row], place);
-        }
     }
 };
 
-TEST_F(ChartScreen, AllSalesDifferent) {
+TEST_F(ChartScreen, AllSalesDifferentAndASnapshotUntilOk) {
     open();
-    EXPECT_TRUE(t.g.forms.Chart.visible);
-    EXPECT_TRUE(t.g.forms.main.usable());  // the office stays usable beside it
-    for (int i = 1; i <= 70; ++i) {
-        EXPECT_EQ(t.r.chartplace[i], 71 - i);
-        EXPECT_EQ(t.r.chartsales[i], i);
+    EXPECT_TRUE(g.forms.Chart.visible && g.forms.main.usable());  // beside the office
+    for (int i = 1; i <= 70; ++i) EXPECT_EQ(str(r.chartplace[i], r.chartsales[i]), str(71 - i, i));
+    EXPECT_EQ(line(1).caption, "Band 70 with Title 70");
+    EXPECT_EQ(top(10), "70 69 68 67 66 65 64 63 62 61");
+    for (int p = 1; p <= 10; ++p) EXPECT_EQ(line(p).color, colour::kBrightWhite);
+    EXPECT_EQ(g.forms.Chart.track[0].caption + g.forms.Chart.track[19].caption, "110");
+    r.chartsales[1] = r.chartsales[2] = 5000;
+    open();  // brought forward only
+    EXPECT_EQ(str(g.forms.Chart.forward_requests, top(1), r.chartplace[1]), "1 70 70");
+    EXPECT_EQ(click(g, "Chart", "command1"), ClickResult::Done);
+    EXPECT_EQ(click(g, "Chart", "command1"), ClickResult::Ignored);
+    open();
+    EXPECT_EQ(str(top(3), r.chartsales[1]), "1 2 70 5001");
+}
+
+// Each case: the sales given, then row sales place after the ranking, then the top lines.
+// The later row writes a shared place last; a place nobody got keeps its "...".
+TEST_F(ChartScreen, TiesGoToTheEarlierRowWhoseSalesRise) {
+    const struct {
+        std::vector<std::pair<int, Long>> sales;
+        std::string ranked, top;
+    } cases[] = {
+        {{{30, 500}, {40, 500}, {50, 500}}, "501 1 501 2 500 3", "30 40 50"},
+        {{{30, 1000}, {40, 1000}, {50, 1001}}, "1002 1 1000 3 1001 2", "30 50 40"},
+        {{{30, 1000}, {40, 1001}, {50, 1000}, {60, 1001}},
+         "1002 2 1002 2 1000 4 1001 3",
+         "... 40 60 50 70"},
+    };
+    for (const auto& c : cases) {
+        for (int i = 1; i <= 70; ++i) r.chartsales[i] = i;
+        std::string ranked;
+        for (auto [row, s] : c.sales) r.chartsales[row] = s;
+        open();
+        for (auto [row, s] : c.sales) ranked += str(r.chartsales[row], r.chartplace[row]) + " ";
+        EXPECT_EQ(ranked, c.ranked + " ");
+        EXPECT_EQ(top(static_cast<int>(c.sales.size()) + (c.top[0] == '.' ? 1 : 0)), c.top);
+        Chart_command1(g);
     }
-    for (int p = 1; p <= 10; ++p) {
-        EXPECT_EQ(line(p).caption, shows(71 - p));
-        EXPECT_EQ(line(p).color, colour::kBrightWhite);
-    }
-    EXPECT_EQ(t.g.forms.Chart.track[0].caption, "1");
-    EXPECT_EQ(t.g.forms.Chart.track[19].caption, "10");
-}
-
-TEST_F(ChartScreen, ThreeTiedRowsKeepIndexOrder) {
-    rank({{30, 500}, {40, 500}, {50, 500}}, {{30, 501, 1}, {40, 501, 2}, {50, 500, 3}});
-    EXPECT_EQ(top(3), (std::vector<std::string>{shows(30), shows(40), shows(50)}));
-}
-
-TEST_F(ChartScreen, ALiftedRowCanPassTheRowThatOutsoldIt) {
-    rank({{30, 1000}, {40, 1000}, {50, 1001}}, {{30, 1002, 1}, {40, 1000, 3}, {50, 1001, 2}});
-    EXPECT_EQ(top(3), (std::vector<std::string>{shows(30), shows(50), shows(40)}));
-}
-
-TEST_F(ChartScreen, TwoRowsCanShareAPlaceAndLeaveOneEmpty) {
-    rank({{30, 1000}, {40, 1001}, {50, 1000}, {60, 1001}},
-         {{30, 1002, 2}, {40, 1002, 2}, {50, 1000, 4}, {60, 1001, 3}});
-    // The later row writes the shared place last; the place nobody got keeps its "...".
-    EXPECT_EQ(top(5),
-              (std::vector<std::string>{"...", shows(40), shows(60), shows(50), shows(70)}));
-    EXPECT_EQ(line(1).color, colour::kLightCyan);
 }
 
 TEST_F(ChartScreen, PlayersBandNameInYellowAndEmptyRows) {
-    t.r.chartband[70] = "The Wasps";  // a rival row with the player's name
-    t.r.chartband[69] = "the wasps";
-    t.r.chartband[68] = t.r.charttitle[68] = "";
+    r.chartband[70] = "The Wasps";  // a rival row with the player's name
+    r.chartband[69] = "the wasps", r.chartband[68] = r.charttitle[68] = "";
     open();
-    EXPECT_EQ(top(3), (std::vector<std::string>{"The Wasps with Title 70",
-                                                "the wasps with Title 69", " with "}));
-    EXPECT_EQ(line(1).color, colour::kYellow);
-    EXPECT_EQ(line(2).color, colour::kBrightWhite);
-    EXPECT_EQ(line(3).color, colour::kBrightWhite);
+    EXPECT_EQ(top(3), "The Wasps with Title 70 the wasps with Title 69  with ");
+    EXPECT_EQ(str(line(1).color == colour::kYellow, line(2).color == colour::kBrightWhite), "1 1");
 }
 
-TEST_F(ChartScreen, OpenScreenIsASnapshotUntilOk) {
-    open();
-    t.r.chartsales[1] = t.r.chartsales[2] = 5000;
-    open();  // brought forward only
-    EXPECT_EQ(t.g.forms.Chart.forward_requests, 1u);
-    EXPECT_EQ(line(1).caption, shows(70));
-    EXPECT_EQ(t.r.chartplace[1], 70);
-    EXPECT_EQ(t.r.chartsales[1], 5000);
+/// A bands file whose entry i is "Band i", fame i, "Song i", quality 30 + i, demand 100 + i.
+Bytes numbered_bands() {
+    RecordWriter w;
+    for (int i = 0; i < kBandEntries; ++i) {
+        w.put_string("Band " + std::to_string(i));
+        w.put_integer(static_cast<Integer>(i));
+        w.put_string("Song " + std::to_string(i));
+        w.put_integer(static_cast<Integer>(30 + i));
+        w.put_integer(static_cast<Integer>(100 + i));
+    }
+    return w.take();
+}
 
-    EXPECT_EQ(click(t.g, "Chart", "command1"), ClickResult::Done);
-    EXPECT_FALSE(t.g.forms.Chart.loaded);
-    EXPECT_EQ(click(t.g, "Chart", "command1"), ClickResult::Ignored);
-    rank({}, {{1, 5001, 1}, {2, 5000, 2}, {70, 70, 3}});
-    EXPECT_EQ(top(3), (std::vector<std::string>{shows(1), shows(2), shows(70)}));
+void write_all(const std::filesystem::path& p, const Bytes& b) {
+    std::ofstream(p, std::ios::binary)
+        .write(reinterpret_cast<const char*>(b.data()), static_cast<std::streamsize>(b.size()));
+}
+
+Bytes read_all(const std::filesystem::path& p) {
+    std::ifstream in(p, std::ios::binary);
+    return Bytes(std::istreambuf_iterator<char>(in), {});
+}
+
+/// True when rows 20 to 70 hold the built-in records.
+bool rows_are_builtin(const Module1& r) {
+    const auto table = parse_bands(builtin_bands());
+    for (int row = kFirstRivalRow; row <= kChartRows; ++row) {
+        const RivalEntry& e = (*table)[row - kFirstRivalRow];
+        if (r.chartband[row] != e.band || r.chartdemand[row] != e.demand) return false;
+    }
+    return true;
+}
+
+TEST(BandsFile, OurRivalsBehaveLikeTheChartsOwnRecordsAndShipBesideTheProgram) {
+    const auto table = parse_bands(builtin_bands());
+    ASSERT_TRUE(table);
+    for (const RivalEntry& e : *table) {
+        EXPECT_FALSE(e.band.empty() || e.title.empty());
+        EXPECT_TRUE(e.fame >= 0 && e.fame <= 100 && e.quality >= 30 && e.quality <= 74 &&
+                    e.demand >= 50 && e.demand <= 149)
+            << e.band;
+    }
+    EXPECT_EQ((*table)[42].band, "Señor Cassette");  // Windows-1252 letters read back
+    const auto exe = std::filesystem::read_symlink("/proc/self/exe");
+    const auto builtin = builtin_bands();
+    EXPECT_EQ(read_all(exe.parent_path() / "bands.dat"), Bytes(builtin.begin(), builtin.end()));
+    EXPECT_EQ(builtin.size(), 32640u);
+}
+
+TEST(LoadBands, FillsRowsPoolAndLifeFromTheWorkingDirectory) {
+    testing::TempDir dir;
+    write_all("bands.dat", numbered_bands());
+    testing::TestGame t;  // start-up runs loadbands
+    const Module1& r = t.r;
+    for (int row = 20; row <= 70; ++row) {
+        const int i = row - 20;
+        EXPECT_EQ(r.chartband[row] + "/" + r.charttitle[row],
+                  "Band " + std::to_string(i) + "/Song " + std::to_string(i));
+        EXPECT_EQ(r.chartfame[row] + r.chartquality[row] + r.chartdemand[row], 130 + 3 * i);
+        EXPECT_EQ(r.chartlife[row], (30 + i) * 4 + i);
+    }
+    EXPECT_EQ(r.rivalname[0] + r.rivalname[50], "Band 0Band 50");
+    EXPECT_EQ(r.rivalfame[50], 50);
+    for (int i = 51; i <= 60; ++i) EXPECT_EQ(r.rivalname[i] + std::to_string(r.rivalfame[i]), "0");
+    for (int row = 0; row < 20; ++row)
+        EXPECT_EQ(r.chartband[row] + std::to_string(r.chartlife[row]), "0");
+}
+
+TEST(LoadBands, MissingShortOrDamagedFilesFallBackToTheBuiltInCopy) {
+    testing::TempDir dir;
+    ScriptedPort port;
+    Game g(port);
+    const std::vector<std::filesystem::path> here{"bands.dat"};
+    EXPECT_FALSE(loadbands_from(g, here));
+    EXPECT_TRUE(rows_are_builtin(g.rec));
+    EXPECT_FALSE(std::filesystem::exists("bands.dat"));  // nothing is created
+    Bytes short_file = numbered_bands();
+    short_file.pop_back();
+    write_all("bands.dat", short_file);
+    EXPECT_FALSE(loadbands_from(g, here));
+    EXPECT_TRUE(rows_are_builtin(g.rec));
+    Bytes damaged = numbered_bands();
+    damaged[128 * 5 * 30] = 127;  // the band of entry 30 claims 127 bytes
+    write_all("bands.dat", damaged);
+    EXPECT_FALSE(loadbands_from(g, here));
+    EXPECT_TRUE(rows_are_builtin(g.rec));
+    EXPECT_EQ(read_all("bands.dat"), damaged);  // only read, never written
+    // A whole file further along the search path is taken before the built-in copy.
+    std::filesystem::create_directory("share");
+    write_all("share/bands.dat", numbered_bands());
+    EXPECT_EQ(loadbands_from(g, {"bands.dat", "missing/bands.dat", "share/bands.dat"}),
+              std::filesystem::path("share/bands.dat"));
+    EXPECT_EQ(g.rec.chartband[70], "Band 50");
 }
 
 }  // namespace

@@ -1,13 +1,16 @@
 #pragma once
-// A game for rule tests: boxes answered from queues, transcript lines collected, draws
-// pinned where a test needs them.
+// A game for rule tests: boxes answered from queues, transcript lines collected, every draw
+// pinned by the whole number it gives.
 
 #include <gtest/gtest.h>
 
 #include <initializer_list>
+#include <sstream>
 #include <string>
+#include <utility>
 #include <vector>
 
+#include "music/songs.h"
 #include "screens/clicks.h"
 #include "screens/office.h"
 #include "screens/scripted_port.h"
@@ -16,14 +19,31 @@
 
 namespace tourvane::testing {
 
+using Lines = std::vector<std::string>;
+
+/// The values written one after another with a blank between, to compare several at once.
+template <class... T>
+std::string str(const T&... v) {
+    std::ostringstream out;
+    ((out << v << ' '), ...);
+    const std::string s = out.str();
+    return s.substr(0, s.size() - 1);
+}
+
 struct Member {
     int talent = 3, charisma = 5, attitude = 5, looks = 5, creativity = 2, happy = 10;
     const char* sex = "Male";
 };
 
+/// One applicant as the nine draws of `newapplicant` make them.
+struct Applicant {
+    int age = 17, sex = 1, forename = 1, surname = 1;
+    int talent = 1, charisma = 1, attitude = 1, looks = 1, creativity = 1;
+};
+
 class TestGame {
   public:
-    std::vector<std::string> lines;
+    Lines lines;
     ScriptedPort port{[this](const std::string& line) { lines.push_back(line); }};
     Game g{port};
     Module1& r = g.rec;
@@ -41,16 +61,11 @@ class TestGame {
     }
 
     /// Puts a member into a slot directly.
-    void put(int slot, const std::string& name, Member m = {}) {
-        r.membername[slot] = name;
-        r.membertalent[slot] = static_cast<Integer>(m.talent);
-        r.membercharisma[slot] = static_cast<Integer>(m.charisma);
-        r.memberattitude[slot] = static_cast<Integer>(m.attitude);
-        r.memberlooks[slot] = static_cast<Integer>(m.looks);
-        r.membercreativity[slot] = static_cast<Integer>(m.creativity);
-        r.memberhappy[slot] = static_cast<Integer>(m.happy);
-        r.membersex[slot] = m.sex;
-        r.memberage[slot] = 20;
+    void put(int s, const std::string& name, Member m = {}) {
+        r.membername[s] = name, r.membersex[s] = m.sex, r.memberage[s] = 20;
+        r.membertalent[s] = Integer(m.talent), r.membercharisma[s] = Integer(m.charisma);
+        r.memberattitude[s] = Integer(m.attitude), r.memberlooks[s] = Integer(m.looks);
+        r.membercreativity[s] = Integer(m.creativity), r.memberhappy[s] = Integer(m.happy);
     }
 
     /// Fills all four slots with steady members (attitude 5 never misbehaves).
@@ -59,10 +74,76 @@ class TestGame {
         for (int slot = 1; slot <= 4; ++slot) put(slot, names[slot], m);
     }
 
+    /// Slot s as "name|sex|age talent charisma attitude looks creativity happy friction".
+    std::string member(int s) const {
+        std::string out = r.membername[s] + "|" + r.membersex[s] + "|";
+        for (int v : {r.memberage[s], r.membertalent[s], r.membercharisma[s], r.memberattitude[s],
+                      r.memberlooks[s], r.membercreativity[s], r.memberhappy[s]})
+            out += std::to_string(v) + " ";
+        return out + std::to_string(r.memberfriction[s]);
+    }
+    /// `memberhappy` of slots 1 to 4, as "a b c d"; and setting them.
+    std::string happiness() const {
+        return str(r.memberhappy[1], r.memberhappy[2], r.memberhappy[3], r.memberhappy[4]);
+    }
+    void set_happy(int a, int b, int c, int d) {
+        r.memberhappy = {0, Integer(a), Integer(b), Integer(c), Integer(d)};
+    }
+
+    /// Songs 1, 2, ... of the given qualities, on the track list.
+    void songs(const std::vector<int>& qualities) {
+        int k = 0;
+        for (int q : qualities) ++k, r.songname[k] = str("Song", k), r.songquality[k] = Integer(q);
+        r.songcount = r.nextsong = static_cast<Integer>(k);
+        updatesonglist(g);
+    }
+
     /// Queues a draw that makes Int(Rnd()*n)+1 give k.
     void pick(int k, int n) { g.rnd.queue((k - 0.5) / n); }
+    void picks(std::initializer_list<std::pair<int, int>> kn) {
+        for (auto [k, n] : kn) pick(k, n);
+    }
     void draws(std::initializer_list<double> values) {
         for (double v : values) g.rnd.queue(v);
+    }
+    void applicant(const Applicant& a = {}) {
+        picks({{a.age - 16, 6}, {a.sex, 2}, {a.forename, 30}, {a.surname, 30}, {a.talent, 5}});
+        picks({{a.charisma, 10}, {a.attitude, 10}, {a.looks, 10}, {a.creativity, 3}});
+    }
+
+    /// Rival rows 20 to 70 with long lives and sales of their row number; pool entry k is
+    /// "Pool k" with fame k.
+    void calm_chart() {
+        for (int row = 20; row <= 70; ++row) {
+            r.chartband[row] = str("Rival", row), r.charttitle[row] = str("Hit", row);
+            r.chartfame[row] = 10, r.chartquality[row] = 50, r.chartdemand[row] = 100;
+            r.chartlife[row] = 30000, r.chartsales[row] = row, r.chartlastsales[row] = 0;
+        }
+        for (int k = 0; k <= 50; ++k) r.rivalname[k] = str("Pool", k), r.rivalfame[k] = Integer(k);
+    }
+    /// Rival rows' steps that keep them running: demand +1, fame +1, life -1.
+    void tick(int rows = 1) {
+        for (int i = 0; i < rows; ++i) picks({{1, 2}, {1, 5}, {1, 2}, {1, 3}, {1, 100}});
+    }
+    /// A full band's week up to the label's answer: no practice, wages of 1 each, venues open.
+    void week_start() {
+        no();
+        picks({{1, 3}, {1, 3}, {1, 3}, {1, 3}, {1, 2}, {1, 2}, {1, 2}, {1, 2}, {1, 2}});
+    }
+    /// The rest of a full band's week after the singles: nobody ill, no press item, no
+    /// invitation (drawn above 200 popularity), and a calm chart step.
+    void week_end(bool above_200) {
+        for (int i = 0; i < (above_200 ? 6 : 5); ++i) draws({0.5});
+        tick(51);
+    }
+
+    /// Runs `f` and expects it to take exactly the draws queued before, no more.
+    template <class F>
+    void exactly(F&& f) {
+        g.rnd.queue(0.123456);
+        f();
+        EXPECT_EQ(g.rnd.queued_left(), 1u) << "draws left over or missing";
+        g.rnd.clear_queue();
     }
 
     void yes() { port.queue_answer(Answer::Yes); }
@@ -74,29 +155,35 @@ class TestGame {
     }
 
     /// The transcript lines collected so far, and forgets them.
-    std::vector<std::string> take() {
-        std::vector<std::string> out;
+    Lines take() {
+        Lines out;
         out.swap(lines);
         return out;
     }
 
-    /// The memo lines collected so far ("FROM: TEXT"), and forgets all lines.
-    std::vector<std::string> memos() {
-        std::vector<std::string> out;
+    /// The memo lines collected so far, and forgets all lines.
+    Lines memos() {
+        Lines out;
         for (const std::string& l : take())
             if (l.rfind("memo ", 0) == 0) out.push_back(l);
         return out;
     }
 };
 
-/// The transcript line of a memo.
+/// A fixture with the office up and a full, steady band.
+struct Office : ::testing::Test, TestGame {
+    Office() { new_game().full_band(); }
+};
+
+/// The transcript lines of a memo and of the boxes.
 inline std::string memo(std::string_view from, std::string_view text) {
     return "memo " + json_quote(from) + " " + json_quote(text);
 }
-
-/// The transcript line of an OK box.
 inline std::string okbox(std::string_view text) {
     return "msgbox ok " + json_quote(text) + " -> ok";
+}
+inline std::string yesno(std::string_view text, bool yes) {
+    return "msgbox yesno " + json_quote(text) + (yes ? " -> yes" : " -> no");
 }
 
 }  // namespace tourvane::testing

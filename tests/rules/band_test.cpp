@@ -1,0 +1,410 @@
+// The band: applicants and the week's limits on them, the band list and member panel, the
+// status memo, sacking and walking out, practice, lessons, holidays and interviews.
+#include "band/applicants.h"
+#include "band/interviews.h"
+#include "band/roster.h"
+#include "band/training.h"
+#include "test_game.h"
+#include "week/turn.h"
+
+namespace tourvane {
+namespace {
+
+using testing::Lines;
+using testing::memo;
+using testing::str;
+using testing::yesno;
+
+class Applicants : public ::testing::Test, protected testing::TestGame {
+  protected:
+    OfficeForm& f = g.forms.main;
+    void SetUp() override { new_game(); }
+    const std::string& panel() { return f.txtapplicant.caption; }
+    /// Clicks (or updates, with no control) taking exactly the draws queued before.
+    void press(const char* control = nullptr) {
+        exactly([&] { control ? (void)click(g, "main", control) : update(g); });
+    }
+    /// The applicant on show as "name|sex|age talent charisma attitude looks creativity".
+    std::string shown() {
+        const MainFields& a = g.main;
+        return a.applicantname + "|" + a.applicantsex + "|" +
+               str(a.applicantage, a.applicanttalent, a.applicantcharisma, a.applicantattitude,
+                   a.applicantlooks, a.applicantcreativity);
+    }
+};
+
+TEST_F(Applicants, NineDrawsInOrderAndTheSentenceWordForWord) {
+    applicant({19, 2, 3, 5, 2, 7, 4, 9, 3});
+    press();
+    EXPECT_EQ(shown(), "Joanne Del Ray|Female|19 2 7 4 9 3");
+    EXPECT_EQ(panel(),
+              "Joanne Del Ray wants to join the band, she is a poor Vocalist, and is gorgeous!! ");
+    put(1, "Ann Vox");  // the lowest empty slot names the instrument; the ends of the ranges
+    put(2, "Bob Axe");
+    draws({0, 0, 0, 0, 0, 0, 0, 0, 0});
+    press();
+    EXPECT_EQ(shown(), "Aaron Johnson|Male|17 1 1 1 1 1");
+    EXPECT_EQ(panel(),
+              "Aaron Johnson wants to join the band, he is a terrible Bass player, and "
+              "looks very ugly!");
+    put(3, "Cy Low");
+    for (int i = 0; i < 9; ++i) draws({0.99999});
+    press();
+    EXPECT_EQ(shown(), "Nicole Lee|Female|22 5 10 10 10 3");
+    EXPECT_EQ(panel().substr(35), "she is a reasonable Drums player, and is gorgeous!! ");
+    const char* talent[] = {"", "terrible ", "poor ", "poor ", "reasonable ", "reasonable "};
+    const char* looks[] = {"looks very ugly!",    "looks quite ugly. ", "looks o.k. ",
+                           "looks pretty good! ", "is gorgeous!! ",     "is gorgeous!! "};
+    r.membername[2] = "None";
+    for (int v = 1; v <= 10; ++v) {
+        const int tal = (v - 1) % 5 + 1;
+        applicant({.talent = tal, .looks = v});
+        update(g);
+        EXPECT_EQ(panel().substr(46),
+                  std::string(talent[tal]) + "Guitar player, and " + looks[v / 2]);
+    }
+    // A talent raised in the band still has its word.
+    EXPECT_EQ(str(talent_word(6), talent_word(7), talent_word(8), talent_word(12)),
+              "good  good  excellent  excellent ");
+}
+
+TEST_F(Applicants, ThreeDismissalsThenTheFourthIsRefusedForTheWeek) {
+    for (int n = 1; n <= 3; ++n) {
+        applicant({.forename = n});
+        press("dismiss");
+    }
+    EXPECT_EQ(panel().rfind("Ben Johnson wants", 0), 0u);
+    press("dismiss");
+    EXPECT_EQ(memos(), Lines{memo("Dave", "There are no more applicants this week, Boss.")});
+    ok_memos();
+    EXPECT_EQ(str(panel(), f.hire.enabled, f.dismiss.enabled), " 0 0");
+    applicant();
+    press();  // any update reopens the panel, but the count stays at 3
+    EXPECT_TRUE(f.dismiss.enabled);
+    press("dismiss");
+    EXPECT_EQ(str(panel(), g.main.applicantsseen), " 3");
+}
+
+TEST_F(Applicants, HireAtThreeLetsTwoMoreDismissalsThroughThenTheWeekRunsDry) {
+    applicant();
+    update(g);
+    g.main.applicantsseen = 3;
+    applicant();
+    press("hire");
+    applicant({21, 2, 2, 3, 4, 8, 2, 6, 2});
+    press("dismiss");
+    press("dismiss");  // the sixth draws nobody
+    EXPECT_EQ(str(g.main.applicantsseen, panel(), f.hire.enabled), "6 No Applicants 1");
+    // Run dry: a hire copies the last applicant into each next empty slot, which keeps its
+    // illness and practice.
+    r.memberill[2] = 4, r.practice[2] = 3, r.memberfriction[2] = 6, r.memberhappy[2] = 1;
+    press("hire");
+    press("hire");
+    for (int s : {2, 3}) EXPECT_EQ(member(s), "Beth Smith|Female|21 4 8 2 6 2 10 0");
+    EXPECT_EQ(f.members.rows, (Lines{"Aaron Johnson", "Beth Smith", "Beth Smith"}));
+    EXPECT_EQ(str(r.memberill[2], r.practice[2]), "4 3");
+    press("dismiss");
+    EXPECT_EQ(str(g.main.applicantsseen, panel()), "9 No Applicants");
+    EXPECT_TRUE(memos().empty());
+    r.membername[1] = "None";  // with slot 1 empty the old sentence stays
+    f.txtapplicant.caption = "yesterday's";
+    press();
+    EXPECT_EQ(panel(), "yesterday's");
+}
+
+TEST_F(Applicants, MemoAtExactlyFiveComesAfterTheNextApplicantIsDrawn) {
+    const Lines no_more{memo("Dave", "Sorry Boss, no more applicants this week")};
+    g.main.applicantsseen = 4;
+    applicant({.forename = 4, .surname = 4});
+    press("hire");
+    EXPECT_EQ(panel().rfind("Bryan Jones wants", 0), 0u);
+    EXPECT_EQ(memos(), no_more);
+    ok_memos();
+    press("hire");  // the one on show can still be hired
+    EXPECT_EQ(str(r.membername[2], panel()), "Bryan Jones No Applicants");
+    EXPECT_TRUE(memos().empty());
+    full_band();  // the hire that fills the band at five: the panel closes, the memo comes
+    r.membername[4] = "None", g.main.applicantsseen = 4;
+    applicant();
+    update(g);
+    press("hire");
+    EXPECT_EQ(str(r.membername[4], f.hire.enabled, f.dismiss.enabled), "Aaron Johnson 0 0");
+    EXPECT_EQ(memos(), no_more);
+}
+
+class Roster : public testing::Office {
+  protected:
+    OfficeForm& f = g.forms.main;
+    void SetUp() override { listupdate(g), update(g); }
+};
+
+TEST_F(Roster, ListClosesGapsAndARowFillsThePanel) {
+    dblclick(g, "main", "members");  // nobody picked yet
+    EXPECT_EQ(take(), Lines{testing::okbox("Please select a band member")});
+    r.membername[2] = "None";
+    put(3, "Cy Low", {.talent = 4, .charisma = 6, .attitude = 7, .looks = 8, .sex = "Female"});
+    listupdate(g);
+    EXPECT_EQ(f.members.rows, (Lines{"Ann Vox", "Cy Low", "Di Kit"}));
+    EXPECT_FALSE(f.Command2.enabled);
+    click(g, "main", "members", 1);
+    EXPECT_EQ(str(g.main.selectedmember, f.Command2.enabled, f.txtage.caption, f.txtsex.caption,
+                  f.txtinstrument.caption, f.txttalent.caption, f.txtcharisma.caption,
+                  f.txtattitude.caption, f.txtlooks.caption),
+              "3 1 20 Female Bass 4 6 7 8");
+}
+
+TEST_F(Roster, StatusMemoHasHappinessFrictionAndIllness) {
+    const std::string content = "Bob Axe is content.  The other band members seem to get on OK ";
+    const std::string quite = "Bob Axe is quite happy.  The other band members just about tolerate";
+    const struct {
+        int happy, friction, ill;
+        const char* sex;
+        std::string text;
+    } cases[] = {
+        {2, 2, 0, "Male",
+         "Bob Axe is unhappy. The other members of the band get on with him very well."},
+        {3, 0, 1, "Female",
+         " The other members of the band get on with her very well. Bob Axe is ill at the moment. "
+         "She should be fit again in 1 weeks."},
+        {4, 3, 0, "Male", content + "with him."},
+        {6, 4, 0, "Male", content + "with him."},
+        {7, 5, 0, "0", quite + " her."},
+        {8, 6, 0, "Male", quite + " him."},
+        {9, 7, 10, "Male",
+         "Bob Axe is very happy.  The rest of the band really don't get on with him. Bob Axe is "
+         "ill at the moment. He should be fit again in 10 weeks."},
+    };
+    for (const auto& c : cases) {
+        r.memberhappy[2] = static_cast<Integer>(c.happy);
+        r.memberfriction[2] = static_cast<Integer>(c.friction);
+        r.memberill[2] = static_cast<Integer>(c.ill), r.membersex[2] = c.sex;
+        dblclick(g, "main", "members", 1);
+        EXPECT_EQ(memos(), (Lines{memo("Dave", c.text)})) << c.happy;
+        ok_memos();
+    }
+}
+
+// Bob (talent 3, charisma 6, looks 5, creativity 2) costs 32 popularity; his friction of 2 lifts
+// the others by 2 up to 10 and leaves his own happiness alone. No disarms the button first.
+TEST_F(Roster, SackedMemberWithFrictionLiftsTheOthersAndLeavesTheSlotHalfKept) {
+    put(2, "Bob Axe", {.talent = 3, .charisma = 6, .attitude = 9, .looks = 5, .creativity = 2});
+    set_happy(9, 4, 5, 10);
+    r.memberfriction[2] = r.memberill[2] = 2, r.practice[2] = 3, r.popularity = 100;
+    click(g, "main", "members", 1);
+    no();
+    click(g, "main", "Command2");
+    EXPECT_EQ(take(), Lines{yesno("Are you sure you want to sack Bob Axe?", false)});
+    EXPECT_EQ(click(g, "main", "Command2"), ClickResult::Ignored);
+    click(g, "main", "members", 1);
+    yes();
+    applicant({.forename = 2, .surname = 4, .talent = 4, .looks = 6});
+    exactly([&] { click(g, "main", "Command2"); });
+    EXPECT_EQ(str(r.popularity, happiness()), "68 10 4 7 10");
+    // Emptied: name, sex and the five attributes; kept: age, happiness, friction, illness and
+    // practice points. The next applicant is for the guitar.
+    EXPECT_EQ(member(2), "None|0|20 0 0 0 0 0 4 2");
+    EXPECT_EQ(str(r.memberill[2], r.practice[2], r.vacancy), "2 3 2");
+    EXPECT_EQ(f.members.rows, (Lines{"Ann Vox", "Cy Low", "Di Kit"}));
+    EXPECT_EQ(f.txtapplicant.caption.rfind("Adam Jones wants to join the band, he is a "
+                                           "reasonable Guitar",
+                                           0),
+              0u);
+}
+
+TEST_F(Roster, LeaverWithoutFrictionCostsEveryoneFourAndPopularityStopsAtZero) {
+    set_happy(3, 2, 7, 10);
+    r.popularity = 29;  // below twice 3 + 5 + 5 + 2
+    g.main.selectedmember = 4;
+    applicant();
+    exactly([&] { delete_member(g); });
+    EXPECT_EQ(str(r.popularity, happiness()), "0 0 0 3 6");
+}
+
+// A walk-out in slot 1 costs the others 4 happiness; Cy drops to 0 and, later in the same
+// order, walks out too. The picked slot is then an empty one.
+TEST_F(Roster, WalkOutCarriesALaterMemberAndLeavesTheEmptySlotPicked) {
+    set_happy(0, 10, 3, 10);
+    r.memberill[3] = 2, r.popularity = 100;
+    click(g, "main", "members", 0);  // SACK THIS MEMBER armed
+    no();                            // no practice
+    pick(1, 5);                      // Ann walks out
+    applicant({.forename = 5});      // update in the removal
+    pick(1, 5);                      // Cy walks out
+    applicant({.forename = 6});
+    picks({{3, 3}, {2, 3}});                   // wages of Bob and Di
+    for (int v : {1, 2, 1, 2, 1}) pick(v, 2);  // venues
+    picks({{2, 1000}, {2, 1000}});             // nobody falls ill
+    applicant({.forename = 7, .surname = 7});  // the turn's update: Carl Richards
+    command6(g);
+    // 100 - 30 - 30, then the decay; 10 less 4 for each leaver.
+    EXPECT_EQ(str(r.membername[1], r.membername[3], r.popularity, happiness(), r.cash,
+                  g.main.applicantname, g.main.selectedmember),
+              "None None 39 0 2 0 2 2995 Carl Richards 3");
+    const std::string shock =
+        " has decided to leave the band! The rest of the band is in a state of shock.";
+    EXPECT_EQ(memos(), (Lines{memo("Mona", "Ann Vox" + shock), memo("Mona", "Cy Low" + shock)}));
+    ok_memos();
+    dblclick(g, "main", "members");  // the empty slot is still the one asked about
+    EXPECT_EQ(memos(), (Lines{memo("Dave",
+                                   "None is unhappy. The other members of the band get on "
+                                   "with her very well. None is ill at the moment. She "
+                                   "should be fit again in 1 weeks.")}));
+    ok_memos();
+    // SACK THIS MEMBER stayed armed: a Yes removes nobody, only the happiness step runs again.
+    yes();
+    applicant();
+    click(g, "main", "Command2");
+    EXPECT_EQ(take().front(), yesno("Are you sure you want to sack None?", true));
+    EXPECT_EQ(str(r.popularity, happiness()), "39 0 0 0 0");
+}
+
+class Training : public testing::Office {
+  protected:
+    void SetUp() override { listupdate(g), update(g); }
+    /// A lesson for the member of row `row`, answered Yes or No; the lines it raised.
+    Lines lesson(int row, bool go) {
+        click(g, "main", "members", row);
+        go ? yes() : no();
+        click(g, "main", "label13");
+        return take();
+    }
+};
+
+TEST_F(Training, PracticeStepsUpAtFourPoints) {
+    const Lines better{
+        memo("Dave", "Good news, Boss. Thanks to practising, Bob Axe has become more talented!")};
+    const int cases[][4] = {
+        {3, 2, 0, 4}, {3, 1, 0, 4}, {2, 1, 3, 3}};  // points, drawn, after, talent
+    for (const auto& [before, drawn, after, talent] : cases) {
+        r.practice[2] = static_cast<Integer>(before), r.membertalent[2] = 3, r.tiredness = 0;
+        picks({{2, 4}, {drawn, 2}});  // the guitarist
+        exactly([&] { practise(g); });
+        EXPECT_EQ(str(r.practice[2], r.membertalent[2], r.tiredness), str(after, talent, 2));
+        EXPECT_EQ(memos(), talent == 4 ? better : Lines{});
+        ok_memos();
+    }
+    r.membername[3] = "None";  // no practice offered to a band with an empty slot
+    command6(g);
+    for (const std::string& line : take()) EXPECT_NE(line.rfind("msgbox", 0), 0u) << line;
+}
+
+TEST_F(Training, LessonsNeedAPickNameTheSubjectOfTheSlotAndCost75) {
+    click(g, "main", "label13");
+    EXPECT_EQ(take(), Lines{testing::okbox("Please select a band member")});
+    const char* offer[] = {"Ann Vox a Singing", "Bob Axe a Guitar", "Cy Low a Guitar",
+                           "Di Kit a Drums"};
+    for (int row = 0; row < 4; ++row)
+        EXPECT_EQ(lesson(row, false), Lines{yesno(std::string("It will cost £75 to give ") +
+                                                      offer[row] + " lesson. Go ahead?",
+                                                  false)});
+    r.practice[3] = 2, r.cash = 150;
+    lesson(2, true);
+    EXPECT_EQ(lesson(2, true).back(),  // the last 75 pounds
+              memo("Mona", "Thanks to the lesson, Cy Low has become more talented!"));
+    EXPECT_EQ(str(r.membertalent[3], r.practice[3], g.forms.main.txtcash.caption), "4 0 £ 0");
+    ok_memos();
+    r.cash = 74;  // asked first, refused after
+    EXPECT_EQ(lesson(2, true).back(),
+              memo("Accounting", "You don't have enough money for this lesson!"));
+    EXPECT_EQ(str(r.cash, r.practice[3]), "74 0");
+}
+
+TEST_F(Training, HolidayRefusalsAndTheHolidayThatOnlyMovesTheDate) {
+    r.cash = 299;
+    click(g, "main", "holiday");
+    EXPECT_EQ(take(), Lines{memo("Dave", "We can't afford to book a holiday at this time.")});
+    ok_memos();
+    r.cash = 300;
+    no();
+    click(g, "main", "holiday");
+    EXPECT_EQ(take(), Lines{yesno("Go ahead and book a 2 week holiday?", false)});
+    set_happy(8, 3, 10, 0);
+    r.memberill[2] = r.tiredness = 3, r.songweeks = 5, g.main.applicantsseen = 2;
+    yes();
+    exactly([&] { click(g, "main", "holiday"); });
+    EXPECT_TRUE(memos().empty());
+    EXPECT_EQ(str(happiness(), g.forms.main.txtdate.caption, g.forms.main.txtcash.caption),
+              "10 7 10 4 15/09/2001 £ 0");
+    EXPECT_EQ(str(r.memberill[2], r.tiredness, r.songweeks, g.main.applicantsseen), "3 3 5 2");
+    r.membername[4] = "None", r.cash = 5000;
+    exactly([&] { click(g, "main", "holiday"); });  // no update, so no applicant either
+    EXPECT_EQ(take(),
+              Lines{memo("Dave", "We need a full band before we can book a holiday, boss!")});
+    EXPECT_EQ(r.gamedate, 37149.0);
+}
+
+const char* const kRadio[] = {
+    "The band interview went less well than expected",
+    "The band interview went OK, but i think we could do better next time.",
+    "The Interview went really well, the band seem very pleased!"};
+const char* const kCable[] = {"The bands appearance on a cable music show was quite poor.",
+                              "The band interview on a cable T.V show went o.k",
+                              "The bands appearance on a cable T.V show was fantastic!"};
+
+class Interviews : public ::testing::Test, protected testing::TestGame {
+  protected:
+    void SetUp() override { new_game(); }
+    /// Takes up an invitation of `kind` from popularity 100 with the draws queued; expects
+    /// exactly those taken, the memo given (or none) and the popularity gained.
+    void expect(int kind, const char* text, int gain) {
+        r.interviewkind = static_cast<Integer>(kind), r.popularity = 100;
+        g.forms.main.interview.enabled = true;
+        exactly([&] { EXPECT_EQ(click(g, "main", "interview"), ClickResult::Done); });
+        EXPECT_EQ(memos(), text ? Lines{testing::memo("Mona", text)} : Lines{});
+        EXPECT_EQ(r.popularity, 100 + gain);
+        EXPECT_FALSE(g.forms.main.interview.enabled);
+        ok_memos();
+    }
+    /// Radio draws: each charisma roll Int(Rnd()*n) gives `drawn`, the bonus roll `bonus`.
+    void radio(int drawn, int n, int bonus) {
+        for (int s = 0; s < 4; ++s) pick(drawn + 1, n);
+        pick(bonus + 1, 20);
+    }
+};
+
+TEST_F(Interviews, RadioScoresAndTheSilentTwentyAndSixty) {
+    EXPECT_EQ(click(g, "main", "interview"), ClickResult::Ignored);  // no invitation yet
+    full_band({.charisma = 6, .attitude = 4});
+    radio(3, 6, 10);  // 4 * (3 + 1 + 6) + 10 + 5 = 55
+    expect(1, kRadio[1], 13);
+    EXPECT_EQ(click(g, "main", "interview"), ClickResult::Ignored);
+    full_band({.charisma = 1, .attitude = 10});  // 1 a member from charisma
+    radio(0, 1, 0);
+    expect(1, kRadio[0], 2);  // 9, the least a radio interview can score
+    radio(0, 1, 11);
+    expect(1, nullptr, 5);  // 20
+    radio(0, 1, 12);
+    expect(1, kRadio[1], 5);                    // 21
+    full_band({.charisma = 4, .attitude = 1});  // 9 a member from attitude
+    radio(3, 4, 3);
+    expect(1, nullptr, 15);  // 36 + 16 + 8 = 60
+    radio(3, 4, 4);
+    expect(1, kRadio[2], 15);  // 61
+}
+
+TEST_F(Interviews, CableTakesCharismaThenLooksPerMemberAndNoBonus) {
+    full_band({.charisma = 10, .attitude = 7, .looks = 2});
+    for (int s = 0; s < 4; ++s) picks({{1, 10}, {1, 2}});
+    expect(2, nullptr, 5);  // 4 * (1 + 1 + 3) = 20
+    for (int s = 0; s < 4; ++s) picks({{7, 10}, {2, 2}});
+    expect(2, kCable[1], 12);  // 4 * (7 + 2 + 3) = 48
+    for (int s = 0; s < 4; ++s) picks({{1, 10}, {s == 0 ? 2 : 1, 2}});
+    expect(0, kCable[1], 5);  // any kind but radio: 21
+    r.memberattitude[1] = 8;
+    for (int s = 0; s < 4; ++s) picks({{1, 10}, {1, 2}});
+    expect(3, kCable[0], 4);  // 19
+    r.memberattitude[1] = 6;
+    for (int s = 0; s < 4; ++s) picks({{10, 10}, {2, 2}});
+    expect(2, kCable[2], 15);  // 16 + 3 * 15 = 61
+}
+
+TEST_F(Interviews, EmptySlotsStillScoreAndTakeTheirDraws) {
+    draws({0.5, 0.5, 0.5, 0.5});
+    pick(1, 20);
+    expect(1, kRadio[1], 12);  // 4 * 11 + 5 = 49
+    draws({0.5, 0.5, 0.5, 0.5, 0.5, 0.5, 0.5, 0.5});
+    expect(2, kCable[1], 12);  // 4 * 12 = 48
+}
+
+}  // namespace
+}  // namespace tourvane

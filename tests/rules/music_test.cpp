@@ -1,0 +1,347 @@
+// Music: writing songs and the song clock, the record label's verdict and contract, and
+// singles with their sales, royalties, hype and promotion.
+#include "music/label.h"
+#include "music/singles.h"
+#include "music/songs.h"
+#include "test_game.h"
+#include "week/turn.h"
+
+namespace tourvane {
+namespace {
+
+using testing::Lines;
+using testing::memo;
+using testing::okbox;
+using testing::str;
+
+const std::string kStarted =
+    memo("Dave", "Good news, Boss. The band has started writing a new song!");
+const std::string kFinished = memo("Dave", "The band has finished writing a new song!");
+
+class Songs : public testing::Office {
+  protected:
+    /// Record Song, then the lines it raised, with its memos acknowledged.
+    Lines record() {
+        click(g, "main", "command1");
+        ok_memos();
+        return take();
+    }
+};
+
+TEST_F(Songs, RefusalsComeInOrderAndChangeNothing) {
+    const Lines limit{testing::okbox("You have reached the limit of 20 songs!")};
+    r.membername[2] = r.membername[4] = "None", r.songweeks = 5, r.songcount = 20;
+    draws({0.5});  // must stay undrawn
+    EXPECT_EQ(record(), limit);
+    r.songcount = 19;
+    EXPECT_EQ(record(), Lines{memo("Dave", "The band is currently working on a song.")});
+    r.songweeks = 10;
+    EXPECT_EQ(record(), Lines{memo("Dave", "You need a full band to write a song, Boss")});
+    full_band();
+    r.songcount = 20;
+    EXPECT_EQ(record(), limit);
+    EXPECT_EQ(str(r.songweeks, g.rnd.queued_left()), "10 1");
+}
+
+TEST_F(Songs, RestedBandStartsAtOnceTiredBandIsAskedAndYesCostsHappiness) {
+    for (int k : {1, 4}) {
+        r.songweeks = 10;
+        pick(k, 4);
+        EXPECT_EQ(record(), Lines{kStarted});
+        EXPECT_EQ(r.songweeks, k + 3);  // four to seven weeks
+    }
+    const std::string tired = testing::yesno(
+        "The band wants a rest before starting on a new song. Make them record anyway?", false);
+    r.tiredness = 1, r.songweeks = 10;
+    set_happy(0, 10, 5, 1);
+    pick(2, 4);
+    no();
+    EXPECT_EQ(record(), Lines{tired});
+    EXPECT_EQ(str(happiness(), r.songweeks), "0 10 5 1 10");
+    yes();
+    EXPECT_EQ(record(), (Lines{tired.substr(0, tired.size() - 2) + "yes", kStarted}));
+    EXPECT_EQ(str(happiness(), r.songweeks, r.tiredness, r.cash), "0 9 4 0 5 1 3000");
+}
+
+TEST_F(Songs, MakesongDrawsQualityInSlotOrderThenTirednessThenTitle) {
+    // Slot 2 was left mid-song: its talent and creativity of 0 count 1 each.
+    put(1, "Ann Vox", {.talent = 5, .creativity = 3});
+    r.membername[2] = "None", r.membertalent[2] = r.membercreativity[2] = 0;
+    put(3, "Cy Low", {.talent = 4, .creativity = 2});
+    put(4, "Di Kit", {.talent = 2, .creativity = 1});
+    songs({20, 20, 20});
+    r.tiredness = 9;
+    picks({{5, 5}, {1, 3}});            // slot 1: talent 5, creativity 1
+    draws({0.7, 0.7});                  // slot 2: 1 and 1
+    picks({{2, 4}, {2, 2}, {2, 2}});    // slot 3: 2 and 2, slot 4: talent 2
+    draws({0.1});                       // slot 4: creativity 1
+    picks({{1, 3}, {1, 20}, {6, 20}});  // tiredness 2, replacing 9; "Wild" " Love"
+    makesong(g);
+    EXPECT_EQ(str(g.rnd.queued_left(), r.songquality[4], r.songname[4], r.tiredness, r.nextsong,
+                  r.songcount),
+              "0 15 Wild Love 2 4 4");
+    EXPECT_EQ(g.forms.main.songlist.rows, (Lines{"Song 1", "Song 2", "Song 3", "Wild Love"}));
+    EXPECT_EQ(memos(), Lines{kFinished});
+    full_band({.talent = 1, .creativity = 1});  // a band of 1s always writes quality 8
+    for (int i = 0; i < 8; ++i) draws({0.999});
+    picks({{3, 3}, {20, 20}, {20, 20}});
+    makesong(g);
+    EXPECT_EQ(str(r.songname[5], r.songquality[5], r.tiredness), "Shocked Feelings 8 4");
+}
+
+TEST_F(Songs, TheTurnThatFinishesASongLeavesTirednessOneToThree) {
+    calm_chart();
+    for (int tired : {0, 2}) {
+        r.songweeks = 1, r.tiredness = 6;
+        for (int i = 0; i < 8; ++i) draws({0.5});
+        pick(tired + 1, 3);
+        draws({0.5, 0.5});
+        week_start();
+        week_end(false);
+        command6(g);
+        EXPECT_EQ(str(g.rnd.queued_left(), r.tiredness, r.songweeks), str(0, tired + 1, 10));
+        EXPECT_EQ(memos().front(), kFinished);
+        ok_memos();
+    }
+}
+
+const std::string kSigned =
+    memo("Dave", "Superstar Records loved the demo tape and have signed the band!");
+const std::string kRejected = memo("Mona", "The record label rejected our demo tape.");
+const std::string kSent = memo("Dave", "We have sent a demo to the record company");
+
+class Label : public testing::Office {
+  protected:
+    void SetUp() override {
+        calm_chart();
+        songs({10, 45});
+    }
+    Lines send() {
+        click(g, "main", "command3");
+        ok_memos();
+        return take();
+    }
+};
+
+TEST_F(Label, SendingADemo) {
+    EXPECT_EQ(send(),
+              Lines{memo("Mona", "Select a song from the list to send to the record company.")});
+    click(g, "main", "songlist", 0);
+    r.signed_ = -1;  // a band under contract sends demos too
+    EXPECT_EQ(send(), Lines{kSent});
+    g.main.selectedsong = 0;
+    EXPECT_EQ(send(), Lines{memo("Dave", "We have already sent a Demo Tape, Boss.")});
+    EXPECT_EQ(g.main.demosent, -1);
+}
+
+TEST_F(Label, VerdictTable) {
+    const std::string label = "The record label ";
+    const std::string ok = label + "thought the song was ok but not what they are looking for.";
+    const std::string liked = label + "liked your song but felt it didn't meet their needs.";
+    const std::string lot =
+        label + "liked the song a lot, they would like to hear some more of your tracks.";
+    const std::string develop =
+        label + "loved the track, but think the band as a whole still needs to develop.";
+    const struct {
+        int quality, popularity;
+        std::string line;  // empty: no memo
+    } rows[] = {{8, 5000, kRejected},
+                {19, 0, kRejected},
+                {20, 5000, ""},
+                {21, 0, memo("Mona", ok)},
+                {24, 0, memo("Mona", ok)},
+                {25, 0, ""},
+                {26, 0, memo("Mona", liked)},
+                {29, 0, memo("Mona", liked)},
+                {30, 0, ""},
+                {31, 0, memo("Mona", lot)},
+                {39, 5000, memo("Mona", lot)},
+                {40, 5000, ""},
+                {41, 999, memo("Mona", develop)},
+                {41, 1000, kSigned},
+                {300, 32000, kSigned}};
+    for (const auto& row : rows) {
+        r.songquality[2] = static_cast<Integer>(row.quality);
+        r.popularity = static_cast<Integer>(row.popularity), r.signed_ = 0, g.main.demosent = -1;
+        g.main.selectedsong = 2;
+        const bool goes_on = demo_verdict(g);
+        EXPECT_EQ(memos(), row.line.empty() ? Lines{} : Lines{row.line}) << row.quality;
+        EXPECT_EQ(str(goes_on, g.main.demosent, r.signed_),
+                  str(row.line != kRejected, 0, row.line == kSigned ? -1 : 0))
+            << row.quality;
+        ok_memos();
+    }
+    EXPECT_TRUE(demo_verdict(g));  // no demo out: nothing
+    EXPECT_TRUE(take().empty());
+}
+
+// The song judged is the one picked when the week comes; the popularity is the turn's own,
+// after its promotion and before its decay.
+TEST_F(Label, VerdictJudgesTheSongPickedAtTheTurn) {
+    click(g, "main", "songlist", 0);
+    send();
+    click(g, "main", "songlist", 1);
+    r.popularity = 997;
+    click(g, "main", "promote", 1);  // Small: +3
+    week_start();
+    week_end(true);
+    command6(g);
+    EXPECT_EQ(memos(), Lines{kSigned});
+    EXPECT_EQ(str(g.rnd.queued_left(), r.popularity), "0 999");
+}
+
+TEST_F(Label, ContractHoldsAt900AndEndsAt899BeforeThePromotion) {
+    r.signed_ = -1, r.popularity = 900;
+    contract_review(g);
+    EXPECT_EQ(r.signed_, -1);
+    // At 899 the contract goes before the Small promotion is paid, so the single gains no hype
+    // even though the promotion lifts the band past 900.
+    r.popularity = 899, r.released[1] = -1, r.singledemand[1] = 500;
+    click(g, "main", "promote", 1);
+    week_start();
+    pick(2, 2);  // hype step: +0
+    week_end(true);
+    command6(g);
+    EXPECT_EQ(take().at(0), memo("Dave",
+                                 "Bad news, Boss. Due to the bands low popularity, "
+                                 "Superstar records have terminated our contract!"));
+    EXPECT_EQ(str(g.rnd.queued_left(), r.signed_, r.singlehype[1], r.singledemand[1], r.popularity),
+              "0 0 0 500 901");
+}
+
+TEST_F(Label, RejectedDemoEndsTheWeekAfterTheWages) {
+    // A signed band with a single on sale, having played a gig this week.
+    r.signed_ = -1, r.popularity = 1200, r.released[2] = -1, r.singlesales[2] = 33;
+    g.forms.main.command4.enabled = false;
+    click(g, "main", "songlist", 0);
+    send();
+    week_start();
+    command6(g);
+    EXPECT_EQ(take(),
+              (Lines{testing::yesno("Do you want the band to practise?", false), kRejected}));
+    const OfficeForm& f = g.forms.main;
+    EXPECT_EQ(str(g.rnd.queued_left(), r.gamedate, r.cash, r.popularity, r.singlesales[2],
+                  f.txtdate.caption, f.txtcash.caption, f.command4.enabled, f.secret.enabled),
+              "0 37142 2996 1200 33 01/09/2001 £ 3000 0 0");  // no update
+    for (int v = 1; v <= 5; ++v) EXPECT_EQ(r.venueopen[v], -1);
+    ok_memos();  // the demo can go out again at once
+    EXPECT_EQ(send(), Lines{kSent});
+}
+
+const std::string kOffer = "msgbox yesno \"Do you want to release this song as a single?\" -> ";
+
+class Singles : public testing::Office {
+  protected:
+    void SetUp() override {
+        calm_chart();
+        songs({30, 12, 50, 20});
+        r.signed_ = -1, r.popularity = 1000;
+    }
+    /// A double click on a row of the track list (-1: the empty part), memos acknowledged.
+    Lines dbl(int row) {
+        dblclick(g, "main", "songlist", row);
+        ok_memos();
+        return take();
+    }
+    /// A full week with the given picks {k, n} for the singles, then the lines it raised.
+    Lines week(std::initializer_list<std::pair<int, int>> singles) {
+        week_start();
+        picks(singles);
+        week_end(true);
+        command6(g);
+        EXPECT_EQ(g.rnd.queued_left(), 0u);
+        ok_memos();
+        return take();
+    }
+    /// Single k and its chart row in one line.
+    std::string single(int k) {
+        return "hype " + std::to_string(r.singlehype[k]) + " demand " +
+               std::to_string(r.singledemand[k]) + " sales " + std::to_string(r.singlesales[k]) +
+               ", row " + r.chartband[k] + " / " + r.charttitle[k] + " " +
+               std::to_string(r.chartsales[k]) + " last " + std::to_string(r.chartlastsales[k]);
+    }
+};
+
+TEST_F(Singles, ReleaseTakes1500AndSetsDemand) {
+    r.cash = 1499;
+    yes();
+    EXPECT_EQ(dbl(0), (Lines{kOffer + "yes",
+                             memo("Dave", "We don't have enough funds to release a single")}));
+    r.cash = 1500;
+    no();
+    EXPECT_EQ(dbl(0), Lines{kOffer + "no"});
+    yes();
+    EXPECT_EQ(dbl(0), Lines{kOffer + "yes"});
+    // Demand 30 * 4 + 1000; the chart row shows the single from its first week on.
+    EXPECT_EQ(single(1), "hype 0 demand 1120 sales 0, row  /  0 last 0");
+    EXPECT_EQ(str(r.released[1], g.forms.main.txtcash.caption), "-1 £ 0");
+}
+
+TEST_F(Singles, SalesReportAndWhatNeedsTheContract) {
+    r.released[2] = -1, r.singlesales[2] = 37;
+    EXPECT_EQ(dbl(1), Lines{memo("Mona", "There were 37 sales of this song last week.")});
+    r.signed_ = 0;  // without a contract nothing at all, released or not
+    EXPECT_TRUE(dbl(1).empty());
+    EXPECT_TRUE(dbl(0).empty());
+    r.signed_ = -1;  // the empty part of the list picks no song and does nothing
+    yes();
+    EXPECT_TRUE(dbl(-1).empty());
+    EXPECT_EQ(str(r.released[0], r.released[1], port.answers_left()), "0 0 1");
+}
+
+TEST_F(Singles, RoyaltiesAreTwoFifthsOfTheSalesWithABoxForEverySingle) {
+    const int hype[] = {0, 0, 0, 100, 0}, demand[] = {0, 0, 0, 5, 0};
+    for (int k = 1; k <= 4; ++k) {
+        r.released[k] = -1, r.singlehype[k] = static_cast<Integer>(hype[k]);
+        r.singledemand[k] = static_cast<Integer>(demand[k]), r.chartsales[k] = 7 * k;
+    }
+    // 1 copy, 3 copies, 5 + 20 copies, 4 copies; each then loses demand.
+    picks({{1, 20}, {1, 100}, {3, 20}, {50, 100}, {20, 20}, {3, 100}, {4, 20}, {1, 100}});
+    singles_phase(g);
+    EXPECT_EQ(g.rnd.queued_left(), 0u);
+    EXPECT_EQ(take(), (Lines{okbox("£0"), okbox("£1"), okbox("£10"), okbox("£1")}));
+    EXPECT_EQ(r.cash, 3012);
+    EXPECT_EQ(single(1), "hype 0 demand 0 sales 1, row The Wasps / Song 1 1 last 7");
+    EXPECT_EQ(single(2), "hype 0 demand 0 sales 3, row The Wasps / Song 2 3 last 14");
+    EXPECT_EQ(single(3), "hype 100 demand 2 sales 25, row The Wasps / Song 3 25 last 21");
+    EXPECT_EQ(single(4), "hype 0 demand 0 sales 4, row The Wasps / Song 4 4 last 28");
+}
+
+// A quality 30 single released at 1000 popularity, then a week of High promotion.
+TEST_F(Singles, FirstWeekOfASingleUnderHighPromotion) {
+    yes();
+    dbl(0);
+    click(g, "main", "promote", 3);
+    EXPECT_EQ(week({{20, 20}, {100, 100}, {1, 2}}).at(1), okbox("£39"));  // 78 + 20 copies
+    EXPECT_EQ(single(1), "hype 8 demand 1020 sales 98, row The Wasps / Song 1 98 last 0");
+    EXPECT_EQ(str(r.cash, r.popularity), str(3000 - 1500 - 400 - 4 + 39, 1004));
+}
+
+TEST_F(Singles, PromotionAddsHypeToReleasedSinglesAndTheTurnCapsItAt100) {
+    r.released[1] = -1;
+    for (int k = 1; k <= 3; ++k) {
+        r.singlehype[1] = 0;
+        click(g, "main", "promote", k);
+        week({{1, 20}, {1, 100}, {2, 2}});  // hype step +0
+        EXPECT_EQ(str(r.singlehype[1], r.singlehype[2]), str(k * 2 + 1, 0));
+    }
+    r.singlehype[1] = 98, r.singledemand[1] = 200;
+    click(g, "main", "promote", 2);     // Medium: 103, then capped
+    week({{1, 20}, {1, 100}, {1, 2}});  // 200 + 1 copies, then hype +1
+    EXPECT_EQ(single(1), "hype 101 demand 199 sales 201, row The Wasps / Song 1 201 last 1");
+}
+
+TEST_F(Singles, ShelvedSingleOnlyMovesItsHype) {
+    r.signed_ = 0, r.popularity = 500, r.released[1] = r.released[3] = -1;
+    r.singlehype[1] = r.singlehype[2] = 10, r.singledemand[1] = 300;
+    r.singlesales[1] = r.chartsales[1] = 40, r.chartlastsales[1] = 12, r.chartband[1] = "The Wasps";
+    click(g, "main", "promote", 3);  // High adds nothing without the contract
+    for (const std::string& line : week({{1, 2}, {2, 2}}))
+        EXPECT_EQ(line.find("msgbox ok"), std::string::npos);
+    EXPECT_EQ(single(1), "hype 11 demand 300 sales 40, row The Wasps /  40 last 12");
+    EXPECT_EQ(r.singlehype[2] * 100 + r.singlehype[3], 1000);  // only released songs move
+    EXPECT_EQ(r.cash, 3000 - 400 - 4);
+}
+
+}  // namespace
+}  // namespace tourvane
