@@ -62,6 +62,9 @@ struct SignedBand {
             if (r.singledemand[k] < 100) r.singledemand[k] = 1200;
         g.memos.clear();
         g.forms.main.enabled = true;
+        // Millions of weeks would pile millions of boxes into the diary; a real game's diary
+        // stays small, so each week notes its boxes into a short one.
+        g.diary.clear();
     }
 };
 
