@@ -13,16 +13,21 @@
 namespace tourvane::fuzz {
 
 /// Makes a fresh folder the working directory for the rest of the run, so that save files
-/// and bands.dat written by a target never land beside the sources.
+/// and bands.dat written by a target never land beside the sources. The folder goes when the
+/// run ends normally; after a crash it stays, with the files of the breaking input.
 inline void enter_scratch_folder() {
-    static const bool entered = [] {
-        std::string pattern =
-            (std::filesystem::temp_directory_path() / "tourvane-fuzz-XXXXXX").string();
-        if (::mkdtemp(pattern.data()) == nullptr) std::abort();
-        std::filesystem::current_path(pattern);
-        return true;
-    }();
-    (void)entered;
+    static std::filesystem::path folder;
+    if (!folder.empty()) return;
+    std::string pattern =
+        (std::filesystem::temp_directory_path() / "tourvane-fuzz-XXXXXX").string();
+    if (::mkdtemp(pattern.data()) == nullptr) std::abort();
+    folder = pattern;
+    std::filesystem::current_path(folder);
+    std::atexit([] {
+        std::error_code ec;
+        std::filesystem::current_path(folder.parent_path(), ec);
+        std::filesystem::remove_all(folder, ec);
+    });
 }
 
 /// Writes `bytes` to `path` in the working folder.
