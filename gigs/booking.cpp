@@ -7,14 +7,6 @@
 
 namespace tourvane {
 
-namespace {
-
-std::string pounds(std::int64_t amount) {
-    return "£" + std::to_string(amount);
-}
-
-}  // namespace
-
 Integer venue_capacity(const Module1& r, int n) {
     return saturate<Integer>(std::int64_t{r.venuefame[venue_slot_or_none(n)]} * 4);
 }
@@ -70,9 +62,9 @@ void gig_location(Game& g, int index) {
     GigForm& f = g.forms.gig;
     const int n = index + 1;
     f.txtcapacity.caption = std::to_string(venue_capacity(r, n));
-    f.txtticket.caption = pounds(r.ticketprice[venue_slot_or_none(n)]);
+    f.txtticket.caption = format_pounds(r.ticketprice[venue_slot_or_none(n)]);
     r.hirecost = venue_hirecost(r, n);
-    f.txthire.caption = pounds(r.hirecost);
+    f.txthire.caption = format_pounds(r.hirecost);
     f.command1.enabled = true;
     store(g.gig.gigvenue, n);
 }

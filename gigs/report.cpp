@@ -76,7 +76,7 @@ void load_thenewspaper(Game& g) {
     f.txtnews.caption =
         r.newstext + " The best song of the gig was " + r.songname[song_slot_or_none(r.bestsong)];
     f.txtattend.caption = std::to_string(r.attendance);
-    f.txtprofit.caption = "£" + std::to_string(r.gigprofit);
+    f.txtprofit.caption = format_pounds(r.gigprofit);
     f.txtnews.caption += kClosingPhrases[draw(g, static_cast<int>(kClosingPhrases.size())) - 1];
 }
 

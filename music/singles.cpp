@@ -60,7 +60,7 @@ void singles_phase(Game& g) {
         store(m.royalty, std::int64_t{m.weeksales} * 4);
         store(m.royalty, percent_of(m.royalty, 10));
         add(r.cash, m.royalty);
-        MsgBox(g, "£" + std::to_string(m.royalty));
+        MsgBox(g, format_pounds(m.royalty));
         store(r.singledemand[i], r.singledemand[i] - (Int(g.rnd() * 100) + 1));
         if (r.singledemand[i] < 0) r.singledemand[i] = 0;
     }

@@ -95,6 +95,10 @@ std::string format_date(double day_count) {
     return text;
 }
 
+std::string format_pounds(long long pounds) {
+    return "£" + std::to_string(pounds);
+}
+
 std::string format_cash(long long pounds) {
     return "£ " + std::to_string(pounds);
 }

@@ -33,4 +33,8 @@ std::string format_date(double day_count);
 /// Shows a sum of money as on the office screen: "£ " and plain digits.
 std::string format_cash(long long pounds);
 
+/// Shows a sum of money as boxes and the gig screens do: "£" and digits, the minus sign of a
+/// loss between them.
+std::string format_pounds(long long pounds);
+
 }  // namespace tourvane
