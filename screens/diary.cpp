@@ -26,7 +26,6 @@ void next_week_click(Game& g) {
     command6(g);
     if (g.rec.gamedate == before.date) return;
     if (g.segments.empty()) g.segments.push_back(before);
-    if (g.history.capacity() == g.history.size()) g.history.reserve(g.history.size() * 2 + 64);
     g.history.push_back(sample_of(g.rec, static_cast<int>(g.segments.size()) - 1));
 }
 
