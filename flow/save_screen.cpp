@@ -104,8 +104,4 @@ void savefrm_back(Game& g) {
     g.forms.savefrm.visible = false;
 }
 
-void savefrm_close(Game& g) {
-    savefrm_back(g);
-}
-
 }  // namespace tourvane

@@ -98,7 +98,7 @@ FormView* GameWindows::view_of(const QWidget* window) const {
 void GameWindows::forward(FormView* view, const Control* control, int index, bool double_click) {
     if (ended_) return;
     const char* form = view->form().name;
-    // A refused click (ClickResult::Ignored) changes nothing; the refresh below also puts
+    // A refused click (ClickResult::NotUsableNow) changes nothing; the refresh below also puts
     // back anything the widget did by itself, such as an option marking itself.
     if (double_click)
         dblclick(g_, form, control->name, index);

@@ -38,14 +38,14 @@ TEST(Diary, ATurnsBoxAndMemosInTheOrderShownEachWithItsDay) {
                  "Bad new, Boss. We're out of cash, and that means we're out of a job!");
 
     // The driver's transcript saw the same boxes and memos in the same order.
-    std::vector<std::string> seen;
-    for (const std::string& line : t.take())
-        if (line.rfind("memo ", 0) == 0 || line.rfind("msgbox ", 0) == 0) seen.push_back(line);
+    std::vector<Shown> seen;
+    for (const Shown& s : t.take())
+        if (s.kind == Shown::Kind::Memo || s.kind == Shown::Kind::Box) seen.push_back(s);
     ASSERT_EQ(seen.size(), t.g.diary.size());
     for (std::size_t i = 0; i < seen.size(); ++i) {
         const DiaryEntry& e = t.g.diary[i];
         if (e.from == kBoxSender)
-            EXPECT_EQ(seen[i].rfind("msgbox yesno " + json_quote(e.text), 0), 0u) << seen[i];
+            EXPECT_EQ(seen[i], yesno(e.text, false));
         else
             EXPECT_EQ(seen[i], memo(e.from, e.text));
     }
