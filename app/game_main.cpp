@@ -5,13 +5,13 @@
 #include <QStyleFactory>
 #include <memory>
 
+#include "app/command_line.h"
+#include "app/qt/game_windows.h"
+#include "app/qt/pictures.h"
+#include "app/qt/qt_port.h"
 #include "app/startup_probe.h"
-#include "screens/office.h"
-#include "screens/qt/command_line.h"
-#include "screens/qt/game_windows.h"
-#include "screens/qt/pictures.h"
-#include "screens/qt/qt_port.h"
-#include "state/game.h"
+#include "core/game.h"
+#include "flow/office.h"
 
 int main(int argc, char** argv) {
     // --help, --version and every mistake are answered before a display is needed.

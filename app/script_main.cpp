@@ -6,9 +6,9 @@
 #include <string_view>
 #include <vector>
 
-#include "app/about.h"
 #include "app/driver/invocation.h"
 #include "app/driver/session.h"
+#include "core/about.h"
 
 int main(int argc, char** argv) {
     using namespace tourvane::driver;

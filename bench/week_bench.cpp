@@ -8,11 +8,11 @@
 #include <string>
 #include <vector>
 
-#include "music/chart.h"
-#include "saves/save_file.h"
-#include "screens/office.h"
-#include "screens/scripted_port.h"
-#include "week/turn.h"
+#include "core/scripted_port.h"
+#include "flow/office.h"
+#include "rules/files/save_file.h"
+#include "rules/music/chart.h"
+#include "rules/week/turn.h"
 
 namespace tourvane {
 namespace {

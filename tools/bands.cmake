@@ -1,7 +1,8 @@
 # The rival bands file. data/bands.txt is the readable table; make_bands turns it into
 # bin/bands.dat, which the game finds beside itself, and into a built-in copy compiled into
 # the game for when no bands.dat can be read.
-add_executable(tourvane-make-bands tools/make_bands.cpp saves/record_file.cpp saves/cp1252.cpp)
+add_executable(tourvane-make-bands tools/make_bands.cpp rules/files/record_file.cpp
+                                   rules/files/cp1252.cpp)
 target_include_directories(tourvane-make-bands PRIVATE ${CMAKE_CURRENT_SOURCE_DIR})
 target_link_libraries(tourvane-make-bands PRIVATE tourvane_warnings)
 
@@ -23,7 +24,7 @@ target_sources(tourvane_core PRIVATE ${TOURVANE_BANDS_BUILTIN})
 # installed.
 file(RELATIVE_PATH TOURVANE_DATADIR_FROM_BIN ${CMAKE_INSTALL_FULL_BINDIR}
      ${CMAKE_INSTALL_FULL_DATADIR}/tourvane)
-set_property(SOURCE music/bands.cpp APPEND PROPERTY COMPILE_DEFINITIONS
+set_property(SOURCE rules/music/bands.cpp APPEND PROPERTY COMPILE_DEFINITIONS
              TOURVANE_DATADIR_FROM_BIN="${TOURVANE_DATADIR_FROM_BIN}"
              TOURVANE_DATADIR="${CMAKE_INSTALL_FULL_DATADIR}/tourvane")
 install(FILES ${TOURVANE_BANDS_DAT} DESTINATION ${CMAKE_INSTALL_DATADIR}/tourvane)

@@ -13,8 +13,8 @@
 #include <string_view>
 #include <vector>
 
-#include "saves/cp1252.h"
-#include "saves/record_file.h"
+#include "rules/files/cp1252.h"
+#include "rules/files/record_file.h"
 
 namespace {
 

@@ -11,7 +11,7 @@
 #include <cstdio>
 #include <cstdlib>
 
-#include "screens/qt/pictures.h"
+#include "app/qt/pictures.h"
 
 int main(int argc, char** argv) {
     if (argc < 3) {

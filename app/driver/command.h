@@ -7,7 +7,7 @@
 #include <string_view>
 #include <vector>
 
-#include "screens/ui_port.h"
+#include "core/ui_port.h"
 
 namespace tourvane::driver {
 

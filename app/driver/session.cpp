@@ -6,14 +6,14 @@
 #include <ostream>
 
 #include "app/driver/values.h"
-#include "band/applicants.h"
-#include "band/roster.h"
-#include "band/training.h"
-#include "music/songs.h"
-#include "screens/clicks.h"
-#include "screens/office.h"
-#include "screens/ui.h"
-#include "week/events.h"
+#include "core/ui.h"
+#include "flow/clicks.h"
+#include "flow/office.h"
+#include "rules/band/applicants.h"
+#include "rules/band/roster.h"
+#include "rules/band/training.h"
+#include "rules/music/songs.h"
+#include "rules/week/events.h"
 
 namespace tourvane::driver {
 

@@ -10,9 +10,9 @@
 #include <vector>
 
 #include "app/driver/command.h"
-#include "screens/scripted_port.h"
-#include "state/fields.h"
-#include "state/game.h"
+#include "core/fields.h"
+#include "core/game.h"
+#include "core/scripted_port.h"
 
 namespace tourvane::driver {
 

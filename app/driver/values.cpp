@@ -4,8 +4,8 @@
 #include <cmath>
 #include <limits>
 
-#include "screens/scripted_port.h"
-#include "state/numeric.h"
+#include "core/numeric.h"
+#include "core/scripted_port.h"
 
 namespace tourvane::driver {
 

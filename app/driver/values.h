@@ -8,7 +8,7 @@
 #include <string>
 #include <string_view>
 
-#include "state/fields.h"
+#include "core/fields.h"
 
 namespace tourvane::driver {
 

@@ -5,10 +5,10 @@
 #include <cstdint>
 #include <span>
 
-#include "music/bands.h"
-#include "music/chart.h"
-#include "screens/office.h"
-#include "screens/scripted_port.h"
+#include "core/scripted_port.h"
+#include "flow/office.h"
+#include "rules/music/bands.h"
+#include "rules/music/chart.h"
 #include "tests/fuzz/fuzz_support.h"
 
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {

@@ -5,11 +5,11 @@
 #include <cstdint>
 #include <span>
 
-#include "saves/record_file.h"
-#include "saves/save_file.h"
-#include "screens/clicks.h"
-#include "screens/office.h"
-#include "screens/scripted_port.h"
+#include "core/scripted_port.h"
+#include "flow/clicks.h"
+#include "flow/office.h"
+#include "rules/files/record_file.h"
+#include "rules/files/save_file.h"
 #include "tests/fuzz/fuzz_support.h"
 
 namespace tourvane {

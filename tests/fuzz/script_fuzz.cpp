@@ -8,7 +8,7 @@
 
 #include "app/driver/command.h"
 #include "app/driver/session.h"
-#include "saves/save_file.h"
+#include "rules/files/save_file.h"
 #include "tests/fuzz/fuzz_support.h"
 
 namespace {

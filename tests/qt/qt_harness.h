@@ -14,11 +14,11 @@
 #include <optional>
 #include <vector>
 
-#include "music/songs.h"
-#include "screens/office.h"
-#include "screens/qt/game_windows.h"
-#include "screens/qt/qt_port.h"
-#include "state/game.h"
+#include "app/qt/game_windows.h"
+#include "app/qt/qt_port.h"
+#include "core/game.h"
+#include "flow/office.h"
+#include "rules/music/songs.h"
 
 namespace tourvane::testing {
 

@@ -5,9 +5,9 @@
 #include <QSet>
 #include <QtTest>
 
+#include "core/diary.h"
+#include "core/ui.h"
 #include "qt_harness.h"
-#include "screens/diary.h"
-#include "screens/ui.h"
 
 using tourvane::testing::Harness;
 

@@ -7,10 +7,10 @@
 #include <QTreeWidget>
 #include <QtTest>
 
+#include "app/command_line.h"
 #include "app/driver/values.h"
+#include "core/ui.h"
 #include "qt_harness.h"
-#include "screens/qt/command_line.h"
-#include "screens/ui.h"
 
 using tourvane::testing::Harness;
 

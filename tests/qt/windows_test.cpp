@@ -5,9 +5,9 @@
 #include <QSignalSpy>
 #include <QtTest>
 
+#include "app/qt/form_skins.h"
+#include "core/ui.h"
 #include "qt_harness.h"
-#include "screens/qt/form_skins.h"
-#include "screens/ui.h"
 
 using tourvane::testing::Harness;
 

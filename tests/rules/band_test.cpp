@@ -1,11 +1,11 @@
 // The band: applicants and the week's limits on them, the band list and member panel, the
 // status memo, sacking and walking out, practice, lessons, holidays and interviews.
-#include "band/applicants.h"
-#include "band/interviews.h"
-#include "band/roster.h"
-#include "band/training.h"
+#include "rules/band/applicants.h"
+#include "rules/band/interviews.h"
+#include "rules/band/roster.h"
+#include "rules/band/training.h"
+#include "rules/week/turn.h"
 #include "test_game.h"
-#include "week/turn.h"
 
 namespace tourvane {
 namespace {

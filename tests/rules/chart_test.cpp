@@ -2,10 +2,10 @@
 // rival bands file with where it is found and what it sets up.
 #include <fstream>
 
-#include "music/bands.h"
-#include "music/chart.h"
-#include "music/singles.h"
-#include "saves/record_file.h"
+#include "rules/files/record_file.h"
+#include "rules/music/bands.h"
+#include "rules/music/chart.h"
+#include "rules/music/singles.h"
 #include "temp_dir.h"
 #include "test_game.h"
 

@@ -3,7 +3,7 @@
 
 #include <gtest/gtest.h>
 
-#include "screens/diary.h"
+#include "core/diary.h"
 #include "temp_dir.h"
 #include "test_game.h"
 

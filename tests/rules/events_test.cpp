@@ -1,5 +1,5 @@
 // The week's random events: misbehaviour, illness, press items and invitations.
-#include "week/events.h"
+#include "rules/week/events.h"
 #include "test_game.h"
 
 namespace tourvane {

@@ -1,6 +1,6 @@
 // Gigs: booking from the office, the gig screen, the score, the crowd, the money and the
 // newspaper report, all driven through the clicks a player makes.
-#include "gigs/booking.h"
+#include "rules/gigs/booking.h"
 #include "rules/temp_dir.h"
 #include "rules/test_game.h"
 

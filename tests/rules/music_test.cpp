@@ -1,10 +1,10 @@
 // Music: writing songs and the song clock, the record label's verdict and contract, and
 // singles with their sales, royalties, hype and promotion.
-#include "music/label.h"
-#include "music/singles.h"
-#include "music/songs.h"
+#include "rules/music/label.h"
+#include "rules/music/singles.h"
+#include "rules/music/songs.h"
+#include "rules/week/turn.h"
 #include "test_game.h"
-#include "week/turn.h"
 
 namespace tourvane {
 namespace {

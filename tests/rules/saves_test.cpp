@@ -8,10 +8,10 @@
 #include <set>
 #include <sstream>
 
-#include "saves/cp1252.h"
-#include "saves/save_file.h"
-#include "saves/save_screen.h"
-#include "state/fields.h"
+#include "core/fields.h"
+#include "flow/save_screen.h"
+#include "rules/files/cp1252.h"
+#include "rules/files/save_file.h"
 #include "temp_dir.h"
 #include "test_game.h"
 

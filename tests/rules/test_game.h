@@ -10,12 +10,13 @@
 #include <utility>
 #include <vector>
 
-#include "music/songs.h"
-#include "screens/clicks.h"
-#include "screens/office.h"
-#include "screens/scripted_port.h"
-#include "screens/ui.h"
-#include "state/game.h"
+#include "core/game.h"
+#include "core/scripted_port.h"
+#include "core/ui.h"
+#include "flow/clicks.h"
+#include "flow/office.h"
+#include "rules/band/applicants.h"
+#include "rules/music/songs.h"
 
 namespace tourvane::testing {
 

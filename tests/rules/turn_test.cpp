@@ -1,6 +1,6 @@
 // The office and Next Week: the start-up, the office's labels, and the turn's order, early
 // ends, promotion prices and wages.
-#include "week/turn.h"
+#include "rules/week/turn.h"
 #include "test_game.h"
 
 namespace tourvane {

@@ -6,8 +6,8 @@
 #include <string>
 #include <vector>
 
-#include "state/fields.h"
-#include "state/game.h"
+#include "core/fields.h"
+#include "core/game.h"
 
 namespace tourvane::soak {
 

@@ -8,10 +8,10 @@
 #include <string>
 #include <vector>
 
+#include "core/scripted_port.h"
+#include "flow/clicks.h"
+#include "flow/office.h"
 #include "rules/temp_dir.h"
-#include "screens/clicks.h"
-#include "screens/office.h"
-#include "screens/scripted_port.h"
 #include "tests/soak/invariants.h"
 #include "tests/soak/soak.h"
 

@@ -1,0 +1,280 @@
+#include "app/qt/diary_window.h"
+
+#include <QAbstractTableModel>
+#include <QComboBox>
+#include <QHBoxLayout>
+#include <QHeaderView>
+#include <QLabel>
+#include <QLineEdit>
+#include <QPushButton>
+#include <QShortcut>
+#include <QSortFilterProxyModel>
+#include <QStyledItemDelegate>
+#include <QTreeView>
+#include <QVBoxLayout>
+
+#include "app/qt/window_style.h"
+#include "core/diary.h"
+#include "core/ui.h"
+
+namespace tourvane {
+
+namespace {
+
+QString qs(const std::string& text) {
+    return QString::fromStdString(text);
+}
+
+enum Column { kDate, kFrom, kText, kColumns };
+
+/// Measures a message at the width of its column, so that a long one takes the lines it needs.
+class WrappingDelegate : public QStyledItemDelegate {
+  public:
+    explicit WrappingDelegate(QTreeView* view) : QStyledItemDelegate(view), view_(view) {}
+
+    QSize sizeHint(const QStyleOptionViewItem& option, const QModelIndex& index) const override {
+        QStyleOptionViewItem at_width = option;
+        // The style wraps only within a valid rectangle: any height will do.
+        at_width.rect = QRect(0, 0, view_->header()->sectionSize(index.column()), 1);
+        at_width.features |= QStyleOptionViewItem::WrapText;
+        return QStyledItemDelegate::sizeHint(at_width, index);
+    }
+
+  private:
+    QTreeView* view_;
+};
+
+}  // namespace
+
+/// The diary as a table, newest entry in the top row. It shows the entries it has been told
+/// of, so that new ones arrive as inserted rows.
+class DiaryModel : public QAbstractTableModel {
+  public:
+    DiaryModel(const std::vector<DiaryEntry>& diary, QObject* parent)
+        : QAbstractTableModel(parent), diary_(diary) {}
+
+    /// Inserts the entries written since the last call at the top.
+    void sync() {
+        if (diary_.size() < shown_) {  // never happens in a run; start over to be safe
+            beginResetModel();
+            shown_ = diary_.size();
+            endResetModel();
+        } else if (diary_.size() > shown_) {
+            beginInsertRows({}, 0, static_cast<int>(diary_.size() - shown_) - 1);
+            shown_ = diary_.size();
+            endInsertRows();
+        }
+    }
+
+    const DiaryEntry& entry(int row) const { return diary_[shown_ - 1 - row]; }
+
+    int rowCount(const QModelIndex& parent) const override {
+        return parent.isValid() ? 0 : static_cast<int>(shown_);
+    }
+    int columnCount(const QModelIndex& parent) const override {
+        return parent.isValid() ? 0 : kColumns;
+    }
+
+    QVariant data(const QModelIndex& index, int role) const override {
+        if (!index.isValid()) return {};
+        const DiaryEntry& e = entry(index.row());
+        if (role == Qt::DisplayRole || role == Qt::ToolTipRole) {
+            switch (index.column()) {
+                case kDate:
+                    return qs(format_date(e.date));
+                case kFrom:
+                    return qs(e.from);
+                default:
+                    return qs(e.text);
+            }
+        }
+        if (role == Qt::ForegroundRole && index.column() == kFrom)
+            return QColor(e.from == kBoxSender ? "#9fc4e8" : "#f0b650");
+        return {};
+    }
+
+    QVariant headerData(int section, Qt::Orientation orientation, int role) const override {
+        if (orientation != Qt::Horizontal || role != Qt::DisplayRole) return {};
+        static const char* const titles[] = {"Date", "From", "Message"};
+        return QString(titles[section]);
+    }
+
+  private:
+    const std::vector<DiaryEntry>& diary_;
+    std::size_t shown_ = 0;
+};
+
+/// Keeps the rows from one sender (or all) that hold the searched words.
+class DiaryFilter : public QSortFilterProxyModel {
+  public:
+    using QSortFilterProxyModel::QSortFilterProxyModel;
+
+    void set_sender(const QString& sender) {
+        sender_ = sender;
+        invalidateFilter();
+    }
+    void set_search(const QString& words) {
+        search_ = words.simplified();
+        invalidateFilter();
+    }
+
+  protected:
+    bool filterAcceptsRow(int row, const QModelIndex&) const override {
+        const QAbstractItemModel* m = sourceModel();
+        if (!sender_.isEmpty() && m->index(row, kFrom).data().toString() != sender_) return false;
+        if (search_.isEmpty()) return true;
+        for (int column = 0; column < kColumns; ++column)
+            if (m->index(row, column).data().toString().contains(search_, Qt::CaseInsensitive))
+                return true;
+        return false;
+    }
+
+  private:
+    QString sender_;
+    QString search_;
+};
+
+DiaryWindow::DiaryWindow(const Game& g)
+    : g_(g),
+      model_(new DiaryModel(g.diary, this)),
+      filter_(new DiaryFilter(this)),
+      senders_(new QComboBox(this)),
+      search_(new QLineEdit(this)),
+      entries_(new QTreeView(this)),
+      count_(new QLabel(this)) {
+    setObjectName("diary");
+    setWindowTitle("Diary");
+    setAccessibleName("Diary");
+    dress_side_window(*this);
+    resize(660, 460);
+    setMinimumSize(420, 260);
+
+    auto* heading = new QLabel("Diary", this);
+    heading->setProperty("role", "heading");
+    auto* about = new QLabel("Every memo and message of this run, newest first.", this);
+
+    auto* from_label = new QLabel("&From:", this);
+    from_label->setBuddy(senders_);
+    senders_->setAccessibleName("From");
+    senders_->setAccessibleDescription("Show the messages of one sender, or of everyone");
+    senders_->addItem("Everyone", QString());
+    senders_->setMinimumContentsLength(12);
+    auto* search_label = new QLabel("&Search:", this);
+    search_label->setBuddy(search_);
+    search_->setAccessibleName("Search");
+    search_->setAccessibleDescription("Show only the messages that hold these words");
+    search_->setPlaceholderText("Words in a message, a sender or a date");
+    search_->setClearButtonEnabled(true);
+
+    filter_->setSourceModel(model_);
+    entries_->setModel(filter_);
+    entries_->setAccessibleName("Diary entries");
+    entries_->setRootIsDecorated(false);
+    entries_->setItemsExpandable(false);
+    entries_->setAlternatingRowColors(true);
+    entries_->setUniformRowHeights(false);
+    entries_->setWordWrap(true);
+    entries_->setTextElideMode(Qt::ElideNone);
+    entries_->setItemDelegateForColumn(kText, new WrappingDelegate(entries_));
+    entries_->setSelectionBehavior(QAbstractItemView::SelectRows);
+    entries_->setAllColumnsShowFocus(true);
+    entries_->setEditTriggers(QAbstractItemView::NoEditTriggers);
+    entries_->header()->setSectionResizeMode(kDate, QHeaderView::ResizeToContents);
+    entries_->header()->setSectionResizeMode(kFrom, QHeaderView::ResizeToContents);
+    entries_->header()->setSectionResizeMode(kText, QHeaderView::Stretch);
+    entries_->header()->setSectionsMovable(false);
+    entries_->header()->setStretchLastSection(true);
+    // A long message wraps over more lines when the window narrows.
+    connect(entries_->header(), &QHeaderView::sectionResized, this,
+            [this] { entries_->doItemsLayout(); });
+
+    count_->setProperty("role", "readout");
+    count_->setAccessibleName("Messages shown");
+    auto* close = new QPushButton("Close", this);
+    close->setAccessibleName("Close the diary");
+    close->setAutoDefault(false);
+    connect(close, &QPushButton::clicked, this, &QWidget::close);
+
+    auto* filters = new QHBoxLayout;
+    filters->addWidget(from_label);
+    filters->addWidget(senders_);
+    filters->addSpacing(12);
+    filters->addWidget(search_label);
+    filters->addWidget(search_, 1);
+    auto* bottom = new QHBoxLayout;
+    bottom->addWidget(count_, 1);
+    bottom->addWidget(close);
+    auto* layout = new QVBoxLayout(this);
+    layout->addWidget(heading);
+    layout->addWidget(about);
+    layout->addLayout(filters);
+    layout->addWidget(entries_, 1);
+    layout->addLayout(bottom);
+    setTabOrder(senders_, search_);
+    setTabOrder(search_, entries_);
+    setTabOrder(entries_, close);
+
+    connect(senders_, &QComboBox::currentIndexChanged, this, [this] {
+        filter_->set_sender(senders_->currentData().toString());
+        show_count();
+    });
+    connect(search_, &QLineEdit::textChanged, this, [this](const QString& words) {
+        filter_->set_search(words);
+        show_count();
+    });
+    connect(filter_, &QAbstractItemModel::rowsInserted, this, [this] { show_count(); });
+    auto* find = new QShortcut(QKeySequence::Find, this);
+    connect(find, &QShortcut::activated, this, [this] {
+        search_->setFocus(Qt::ShortcutFocusReason);
+        search_->selectAll();
+    });
+    show_count();
+}
+
+DiaryWindow::~DiaryWindow() {
+    // The widgets below go after this part of the window: none of them may call back into it.
+    for (QObject* sender :
+         {static_cast<QObject*>(entries_->header()), static_cast<QObject*>(filter_),
+          static_cast<QObject*>(senders_), static_cast<QObject*>(search_)})
+        sender->disconnect(this);
+}
+
+void DiaryWindow::refresh() {
+    if (!isVisible()) return;
+    take_senders();
+    model_->sync();
+}
+
+void DiaryWindow::showEvent(QShowEvent* event) {
+    take_senders();
+    model_->sync();
+    show_count();
+    QWidget::showEvent(event);
+}
+
+void DiaryWindow::take_senders() {
+    for (; senders_read_ < g_.diary.size(); ++senders_read_) {
+        const DiaryEntry& e = g_.diary[senders_read_];
+        if (!seen_senders_.insert(e.from).second) continue;
+        // Senders stay in alphabetical order after "Everyone".
+        int at = 1;
+        while (at < senders_->count() && senders_->itemText(at) < qs(e.from)) ++at;
+        senders_->insertItem(at, qs(e.from), qs(e.from));
+    }
+}
+
+void DiaryWindow::show_count() {
+    const int shown = filter_->rowCount();
+    const int all = model_->rowCount({});
+    QString text;
+    if (all == 0)
+        text = "Nothing yet: memos and messages will be listed here as they come.";
+    else if (shown == all)
+        text = all == 1 ? "1 message" : QString("%1 messages").arg(all);
+    else
+        text = QString("%1 of %2 messages").arg(shown).arg(all);
+    count_->setText(text);
+    count_->setAccessibleDescription(text);
+}
+
+}  // namespace tourvane

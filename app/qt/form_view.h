@@ -1,0 +1,101 @@
+#pragma once
+// One screen of the game as a fixed-size window, built from the form model and kept in step
+// with it. The view holds no rule: it reports every click on a control, and `refresh` copies
+// the model's captions, states, rows and colours into the widgets.
+
+#include <QKeySequence>
+#include <QWidget>
+#include <functional>
+#include <map>
+#include <string>
+#include <string_view>
+#include <vector>
+
+#include "core/forms.h"
+
+class QPainter;
+
+namespace tourvane {
+
+class FormView;
+
+/// "name" for a single control, "name(i)" for a member of a control array.
+std::string control_key(const Control& c);
+
+/// How one screen looks: everything here is presentation, none of it changes what a click does.
+struct FormSkin {
+    QString title;               ///< window title
+    QString style_sheet;         ///< widgets are named after their controls ("txtcash", "track_3")
+    bool model_colours = false;  ///< every label takes its text colour from the model
+    /// Drawn under the controls; reads the model through the view (e.g. greyed buttons).
+    std::function<void(QPainter&, const FormView&)> picture;
+    /// Accessible names by control key. A label listed here shows a value: it is named by this
+    /// name and its value goes into the accessible description as it changes.
+    std::map<std::string, QString> names;
+    /// Keyboard shortcuts by control key; each clicks its control.
+    std::vector<std::pair<std::string, QKeySequence>> keys;
+    std::string close_control;              ///< clicked by the close button of the window frame
+    std::string escape_control;             ///< clicked by Escape
+    std::string focus_control;              ///< takes the keyboard focus when the screen opens
+    std::function<void(FormView&)> finish;  ///< last touches once the widgets stand
+};
+
+class FormView : public QWidget {
+    Q_OBJECT
+  public:
+    FormView(FormState& form, std::vector<Control*> controls, FormSkin skin);
+
+    /// Copies the whole model of this screen into its widgets (not the window's visibility,
+    /// which the set of windows decides, since it also places the window).
+    void refresh();
+
+    const FormState& form() const { return form_; }
+    const FormSkin& skin() const { return skin_; }
+
+    /// The model control by key ("name" or "name(i)"), or nullptr.
+    const Control* control(std::string_view key) const;
+    /// The widget that shows a control, by key, or nullptr.
+    QWidget* widget(std::string_view key) const;
+
+    /// Gives the keyboard focus to the screen's first control.
+    void focus_first();
+
+  signals:
+    /// A click on a control: `index` is the array index, the list row, or -1.
+    void controlClicked(const tourvane::Control* control, int index);
+    /// A double click on a list box: the row, or -1 on the empty part.
+    void controlDoubleClicked(const tourvane::Control* control, int row);
+
+  protected:
+    void paintEvent(QPaintEvent* event) override;
+    void closeEvent(QCloseEvent* event) override;
+
+  private:
+    struct Binding {
+        Control* control;
+        QWidget* widget;
+        std::vector<std::string> rows;  ///< rows last copied into a list
+        std::uint32_t colour = 0;
+        bool coloured = false;
+    };
+
+    QWidget* build(Control& c);
+    void refresh(Binding& b);
+    void click_key(const std::string& key);
+    Binding* find(std::string_view key);
+    const Binding* find(std::string_view key) const;
+
+    FormState& form_;
+    FormSkin skin_;
+    std::vector<Binding> bindings_;
+};
+
+/// Builds the view of a form: one widget per control of the model, in the model's order.
+template <class FormT>
+FormView* make_form_view(FormT& form, FormSkin skin) {
+    std::vector<Control*> controls;
+    form.each([&](Control& c) { controls.push_back(&c); });
+    return new FormView(form, std::move(controls), std::move(skin));
+}
+
+}  // namespace tourvane

@@ -1,0 +1,206 @@
+#include "app/qt/game_windows.h"
+
+#include <QApplication>
+#include <QEvent>
+#include <QScreen>
+#include <QShortcut>
+#include <algorithm>
+
+#include "app/qt/form_skins.h"
+#include "app/qt/pictures.h"
+#include "flow/clicks.h"
+
+namespace tourvane {
+
+namespace {
+
+/// The space between the office and a window beside it.
+constexpr int kGap = 12;
+
+bool is_input(QEvent::Type type) {
+    switch (type) {
+        case QEvent::MouseButtonPress:
+        case QEvent::MouseButtonRelease:
+        case QEvent::MouseButtonDblClick:
+        case QEvent::KeyPress:
+        case QEvent::KeyRelease:
+        case QEvent::Wheel:
+        case QEvent::HoverEnter:
+        case QEvent::HoverMove:
+        case QEvent::ContextMenu:
+            return true;
+        default:
+            return false;
+    }
+}
+
+QRect screen_area(const QWidget* near) {
+    const QScreen* screen =
+        near && near->screen() ? near->screen() : QGuiApplication::primaryScreen();
+    return screen ? screen->availableGeometry() : QRect(0, 0, 1024, 768);
+}
+
+/// Moves a rectangle inside the screen where it can.
+QPoint keep_on_screen(QRect r, const QRect& screen) {
+    r.moveRight(std::min(r.right(), screen.right()));
+    r.moveBottom(std::min(r.bottom(), screen.bottom()));
+    r.moveLeft(std::max(r.left(), screen.left()));
+    r.moveTop(std::max(r.top(), screen.top()));
+    return r.topLeft();
+}
+
+/// Puts a window in front and gives it the keys (headless platforms have no stacking order).
+void bring_forward(QWidget* window) {
+    const QString platform = QGuiApplication::platformName();
+    if (platform != "offscreen" && platform != "minimal") window->raise();
+    window->activateWindow();
+}
+
+}  // namespace
+
+GameWindows::GameWindows(Game& g) : g_(g) {
+    Forms& f = g.forms;
+    views_.emplace_back(make_form_view(f.Form1, title_skin()));
+    views_.emplace_back(make_form_view(f.main, office_skin()));
+    views_.emplace_back(make_form_view(f.messageForm, memo_skin()));
+    views_.emplace_back(make_form_view(f.gig, gig_skin()));
+    views_.emplace_back(make_form_view(f.thenewspaper, newspaper_skin()));
+    views_.emplace_back(make_form_view(f.savefrm, files_skin()));
+    views_.emplace_back(make_form_view(f.Chart, chart_skin()));
+    const QIcon icon = program_icons();
+    for (auto& v : views_) {
+        FormView* view = v.get();
+        view->setWindowIcon(icon);
+        connect(view, &FormView::controlClicked, this,
+                [this, view](const Control* c, int index) { forward(view, c, index, false); });
+        connect(view, &FormView::controlDoubleClicked, this,
+                [this, view](const Control* c, int row) { forward(view, c, row, true); });
+    }
+    side_ = std::make_unique<SideWindows>(g, *view("main"));
+    std::vector<QWidget*> windows{&side_->diary(), &side_->graph(), &side_->keys()};
+    for (auto& v : views_) windows.push_back(v.get());
+    for (QWidget* window : windows) {
+        auto* shortcut = new QShortcut(quit_key(), window);
+        connect(shortcut, &QShortcut::activated, this, &GameWindows::quit);
+    }
+    qApp->installEventFilter(this);
+}
+
+GameWindows::~GameWindows() {
+    qApp->removeEventFilter(this);
+}
+
+FormView* GameWindows::view(std::string_view form) const {
+    for (const auto& v : views_)
+        if (form == v->form().name) return v.get();
+    return nullptr;
+}
+
+FormView* GameWindows::view_of(const QWidget* window) const {
+    for (const auto& v : views_)
+        if (v.get() == window) return v.get();
+    return nullptr;
+}
+
+void GameWindows::forward(FormView* view, const Control* control, int index, bool double_click) {
+    if (ended_) return;
+    const char* form = view->form().name;
+    // A refused click (ClickResult::Ignored) changes nothing; the refresh below also puts
+    // back anything the widget did by itself, such as an option marking itself.
+    if (double_click)
+        dblclick(g_, form, control->name, index);
+    else
+        click(g_, form, control->name, index);
+    refresh();
+    if (g_.ended && !ended_) {
+        ended_ = true;
+        for (auto& v : views_) v->hide();
+        side_->close_all();
+        shown_.clear();
+        emit ended();
+    }
+}
+
+void GameWindows::quit() {
+    FormView* title = view("Form1");
+    const bool at_title = title->form().loaded && title->form().visible;
+    FormView* window = at_title ? title : view("main");
+    if (const Control* c =
+            find_control(g_, window->form().name, at_title ? "Label4" : "exitbtn", -1))
+        forward(window, c, -1, false);
+}
+
+void GameWindows::refresh() {
+    for (auto& v : views_) v->refresh();
+    forward_seen_.resize(views_.size(), 0);
+    for (std::size_t i = 0; i < views_.size(); ++i) {
+        FormView* view = views_[i].get();
+        const bool wanted = view->form().loaded && view->form().visible && !g_.ended;
+        const bool forward = view->form().forward_requests != forward_seen_[i];
+        forward_seen_[i] = view->form().forward_requests;
+        if (wanted && view->isVisible() && forward) bring_forward(view);
+        if (wanted && !view->isVisible()) {
+            show_view(view);
+        } else if (!wanted && view->isVisible()) {
+            view->hide();
+            shown_.erase(std::remove(shown_.begin(), shown_.end(), view), shown_.end());
+        }
+    }
+    // When the window in front has closed, the latest window still open takes the keys.
+    const QWidget* active = QApplication::activeWindow();
+    if ((!active || !active->isVisible()) && !shown_.empty()) {
+        bring_forward(shown_.back());
+    }
+    // A memo stays in front of the office it has disabled.
+    if (FormView* memo = view("messageForm"); memo->isVisible()) bring_forward(memo);
+    side_->refresh();
+}
+
+void GameWindows::show_view(FormView* view) {
+    place(view);
+    view->show();
+    shown_.push_back(view);
+    bring_forward(view);
+    view->focus_first();
+}
+
+void GameWindows::place(FormView* view) {
+    const std::string_view name = view->form().name;
+    FormView* office = this->view("main");
+    FormView* title = this->view("Form1");
+    const bool stays = name == "main" || name == "Form1";
+    if (stays && std::find(placed_.begin(), placed_.end(), view) != placed_.end()) return;
+
+    // What the window opens over: the latest window on show, else the office.
+    const QWidget* anchor = shown_.empty() ? nullptr : shown_.back();
+    if (name == "main") anchor = title->testAttribute(Qt::WA_Moved) ? title : nullptr;
+    if (!anchor && office->testAttribute(Qt::WA_Moved) && view != office) anchor = office;
+    const QRect screen = screen_area(anchor);
+
+    QRect frame(QPoint(0, 0), view->size());
+    if (name == "Chart" && office->isVisible()) {
+        // Beside the office, on the right if there is room, else on the left.
+        const QRect o = office->frameGeometry();
+        frame.moveTopLeft(QPoint(o.right() + kGap, o.top()));
+        if (frame.right() > screen.right()) frame.moveTopRight(QPoint(o.left() - kGap, o.top()));
+    } else if (anchor) {
+        frame.moveCenter(anchor->geometry().center());
+    } else {
+        frame.moveCenter(screen.center());
+    }
+    view->move(keep_on_screen(frame, screen));
+    if (stays) placed_.push_back(view);
+}
+
+bool GameWindows::eventFilter(QObject* watched, QEvent* event) {
+    if (!is_input(event->type()) || !watched->isWidgetType()) return false;
+    FormView* view = view_of(static_cast<QWidget*>(watched)->window());
+    if (!view || view->form().enabled) return false;
+    if (event->type() == QEvent::MouseButtonPress && !shown_.empty()) {
+        // A click on the disabled office brings forward what holds it up.
+        bring_forward(shown_.back());
+    }
+    return true;
+}
+
+}  // namespace tourvane

@@ -1,0 +1,64 @@
+#pragma once
+// The seven screens of a running game as windows. Every click on a control goes to the game's
+// one click entry; afterwards every screen is refreshed from the form model, which also decides
+// which windows stand open. When the game ends the windows close and `ended` is signalled.
+
+#include <QObject>
+#include <memory>
+#include <string_view>
+#include <vector>
+
+#include "app/qt/form_view.h"
+#include "app/qt/side_windows.h"
+#include "core/game.h"
+
+namespace tourvane {
+
+class GameWindows : public QObject {
+    Q_OBJECT
+  public:
+    /// Builds a window for each screen of `g`; call `refresh` to show what the model holds.
+    explicit GameWindows(Game& g);
+    ~GameWindows() override;
+
+    /// Copies the whole form model into the windows: controls, and which windows are shown.
+    void refresh();
+
+    /// The window of a screen by its form name ("main", "Form1" ...), or nullptr.
+    FormView* view(std::string_view form) const;
+
+    Game& game() { return g_; }
+
+    /// The diary, the week graph and the key help, opened from the office.
+    SideWindows& side() { return *side_; }
+
+    /// What the quit key does in any window: EXIT while the title is up, else the office's
+    /// quit button, which asks first (and, like any click there, is refused while a screen or
+    /// a memo holds the office up).
+    void quit();
+
+  signals:
+    /// The program has ended: EXIT, quit, or the memo that ends the game acknowledged.
+    void ended();
+
+  protected:
+    /// Keeps the mouse and keys away from a screen that the game has disabled (the office
+    /// while a memo is open), without greying it.
+    bool eventFilter(QObject* watched, QEvent* event) override;
+
+  private:
+    void forward(FormView* view, const Control* control, int index, bool double_click);
+    void show_view(FormView* view);
+    void place(FormView* view);
+    FormView* view_of(const QWidget* window) const;
+
+    Game& g_;
+    std::vector<std::unique_ptr<FormView>> views_;
+    std::unique_ptr<SideWindows> side_;
+    std::vector<FormView*> shown_;        ///< windows on show, in the order they were opened
+    std::vector<FormView*> placed_;       ///< windows that stay where the player left them
+    std::vector<unsigned> forward_seen_;  ///< per view, the form's forward requests handled
+    bool ended_ = false;
+};
+
+}  // namespace tourvane

@@ -1,0 +1,72 @@
+#include "app/qt/side_windows.h"
+
+#include <QEvent>
+#include <QGuiApplication>
+#include <QScreen>
+#include <QShortcut>
+
+#include "app/qt/form_view.h"
+
+namespace tourvane {
+
+SideWindows::SideWindows(Game& g, FormView& office)
+    : g_(g),
+      office_(office),
+      diary_(std::make_unique<DiaryWindow>(g)),
+      graph_(std::make_unique<WeekGraphWindow>(g)),
+      keys_(std::make_unique<KeyHelpWindow>(g)) {
+    const std::pair<QKeySequence, QWidget*> opens[] = {
+        {diary_key(), diary_.get()}, {graph_key(), graph_.get()}, {help_key(), keys_.get()}};
+    for (auto [key, window] : opens) {
+        auto* shortcut = new QShortcut(key, &office_);
+        connect(shortcut, &QShortcut::activated, this, [this, window = window] { open(*window); });
+        window->setWindowIcon(office_.windowIcon());
+        window->installEventFilter(this);
+    }
+}
+
+SideWindows::~SideWindows() = default;
+
+void SideWindows::refresh() {
+    diary_->refresh();
+    graph_->refresh();
+}
+
+void SideWindows::close_all() {
+    for (QWidget* w : {static_cast<QWidget*>(diary_.get()), static_cast<QWidget*>(graph_.get()),
+                       static_cast<QWidget*>(keys_.get())})
+        w->hide();
+}
+
+void SideWindows::open(QWidget& window) {
+    if (!g_.forms.main.usable() || g_.ended) return;
+    if (!window.isVisible()) {
+        if (!window.testAttribute(Qt::WA_Moved)) {
+            // The first time over the office, a little down and right of its corner.
+            const QScreen* screen =
+                office_.screen() ? office_.screen() : QGuiApplication::primaryScreen();
+            QRect frame(office_.geometry().topLeft() + QPoint(40, 40), window.size());
+            if (screen) {
+                const QRect area = screen->availableGeometry();
+                frame.moveRight(std::min(frame.right(), area.right()));
+                frame.moveBottom(std::min(frame.bottom(), area.bottom()));
+                frame.moveLeft(std::max(frame.left(), area.left()));
+                frame.moveTop(std::max(frame.top(), area.top()));
+            }
+            window.move(frame.topLeft());
+        }
+        window.show();
+    }
+    const QString platform = QGuiApplication::platformName();
+    if (platform != "offscreen" && platform != "minimal") window.raise();
+    window.activateWindow();
+}
+
+bool SideWindows::eventFilter(QObject* watched, QEvent* event) {
+    if (event->type() == QEvent::Hide && watched->isWidgetType() && office_.isVisible() &&
+        !static_cast<QWidget*>(watched)->isMinimized())
+        office_.activateWindow();
+    return false;
+}
+
+}  // namespace tourvane

@@ -1,0 +1,68 @@
+#include "app/qt/window_style.h"
+
+#include <QPalette>
+#include <QShortcut>
+#include <QWidget>
+
+namespace tourvane {
+
+void dress_side_window(QWidget& window) {
+    QPalette p = window.palette();
+    const QColor ink("#ece6da"), paper("#1b1720"), field("#0d0b10"), gold("#c9973f");
+    p.setColor(QPalette::Window, paper);
+    p.setColor(QPalette::WindowText, ink);
+    p.setColor(QPalette::Base, field);
+    p.setColor(QPalette::AlternateBase, QColor("#16131b"));
+    p.setColor(QPalette::Text, ink);
+    p.setColor(QPalette::Button, QColor("#2f2934"));
+    p.setColor(QPalette::ButtonText, ink);
+    p.setColor(QPalette::Highlight, gold);
+    p.setColor(QPalette::HighlightedText, QColor("#141018"));
+    p.setColor(QPalette::ToolTipBase, field);
+    p.setColor(QPalette::ToolTipText, ink);
+    p.setColor(QPalette::PlaceholderText, QColor("#8a8172"));
+    p.setColor(QPalette::Disabled, QPalette::Text, QColor("#6d665c"));
+    p.setColor(QPalette::Disabled, QPalette::WindowText, QColor("#6d665c"));
+    p.setColor(QPalette::Disabled, QPalette::ButtonText, QColor("#6d665c"));
+    window.setPalette(p);
+    window.setAutoFillBackground(true);
+    window.setStyleSheet(R"(
+* { font-family: "Liberation Sans", Arial; font-size: 12px; }
+QLabel { color: #ece6da; background: transparent; }
+QLabel[role="heading"] { color: #f0b650; font-size: 16px; font-weight: bold; }
+QLabel[role="readout"] { color: #fbf6ec; font-weight: bold; }
+QLabel[role="hint"] { color: #8a8172; }
+QPushButton {
+    background: qlineargradient(x1:0, y1:0, x2:0, y2:1, stop:0 #5a4f5e, stop:1 #2f2934);
+    border: 1px solid #c9973f; border-radius: 4px; color: #f6e7c8; font-weight: bold;
+    padding: 4px 18px;
+}
+QPushButton:hover { background: #6a5c6e; }
+QPushButton:pressed { background: #2a2430; }
+QPushButton:focus { border-color: #fff0c8; }
+QComboBox, QLineEdit {
+    background: #0d0b10; color: #ece6da; border: 1px solid #4d4438; border-radius: 2px;
+    padding: 2px 6px; min-height: 18px;
+}
+QComboBox:focus, QLineEdit:focus { border-color: #c9973f; }
+QComboBox QAbstractItemView {
+    background: #0d0b10; color: #ece6da; selection-background-color: #c9973f;
+    selection-color: #141018;
+}
+QTreeView {
+    background: #0d0b10; alternate-background-color: #16131b; color: #ece6da;
+    border: 1px solid #4d4438; border-radius: 2px;
+}
+QTreeView:focus { border-color: #c9973f; }
+QTreeView::item { padding: 2px 4px; }
+QTreeView::item:selected { background: #c9973f; color: #141018; }
+QHeaderView::section {
+    background: #2f2934; color: #f0b650; font-weight: bold; border: none;
+    border-right: 1px solid #1b1720; padding: 3px 6px;
+}
+)");
+    auto* escape = new QShortcut(QKeySequence(Qt::Key_Escape), &window);
+    QObject::connect(escape, &QShortcut::activated, &window, &QWidget::close);
+}
+
+}  // namespace tourvane

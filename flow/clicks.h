@@ -1,0 +1,34 @@
+#pragma once
+// The one way in for a player's click: the window and the script driver both call `click`,
+// which refuses clicks a person could not make (hidden or disabled form or control) and
+// otherwise runs the control's rule.
+
+#include <string_view>
+
+#include "core/game.h"
+
+namespace tourvane {
+
+enum class ClickResult {
+    Done,            ///< the control's rule ran
+    Ignored,         ///< the form or the control does not take clicks now
+    UnknownForm,     ///< no form of that name
+    UnknownControl,  ///< no control of that name on the form, or it takes no such click
+    BadIndex,        ///< index missing, out of bounds, or given where none belongs
+};
+
+/// A click on FORM.CONTROL. `index` is the index within a control array, or the row of a list
+/// box or drop-down list (the row is selected first); -1 for none.
+ClickResult click(Game& g, std::string_view form, std::string_view control, int index = -1);
+
+/// A double click on a list box. With a row, the row is selected and its click runs first;
+/// with -1 the double click lands on the empty part of the list and no row is selected.
+ClickResult dblclick(Game& g, std::string_view form, std::string_view control, int row = -1);
+
+/// The state of a form by name, or nullptr.
+FormState* find_form(Game& g, std::string_view form);
+
+/// A control by form name, control name and index (-1 for a single control), or nullptr.
+Control* find_control(Game& g, std::string_view form, std::string_view control, int index);
+
+}  // namespace tourvane

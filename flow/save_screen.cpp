@@ -1,0 +1,111 @@
+#include "flow/save_screen.h"
+
+#include <string>
+
+#include "core/diary.h"
+#include "core/ui.h"
+#include "rules/band/applicants.h"
+#include "rules/band/roster.h"
+#include "rules/files/save_file.h"
+#include "rules/music/songs.h"
+
+namespace tourvane {
+
+namespace {
+
+/// Shows the screen, loading it first if it isn't loaded, with a slot chosen.
+void show_savefrm(Game& g) {
+    SaveForm& f = g.forms.savefrm;
+    if (!f.loaded) load_savefrm(g);
+    f.visible = true;
+    // Something must always be chosen while the screen is up: the top slot comes first.
+    bool chosen = false;
+    for (const Control& c : f.saveslot) chosen = chosen || c.value;
+    if (!chosen) f.saveslot[0].value = true;
+}
+
+/// The slot whose option is chosen, or -1.
+int chosen_slot(const SaveForm& f) {
+    for (int i = 0; i < kSaveSlots; ++i)
+        if (f.saveslot[i].value) return i;
+    return -1;
+}
+
+}  // namespace
+
+void command5(Game& g) {
+    show_savefrm(g);
+    g.forms.savefrm.save.visible = true;
+}
+
+void Form1_load(Game& g) {
+    SaveForm& f = g.forms.savefrm;
+    show_savefrm(g);
+    f.save.visible = false;
+    f.load.pos.left = 88;
+}
+
+void reset_savefrm(Game& g) {
+    SaveForm& f = g.forms.savefrm;
+    unload(f);
+    for (int i = 0; i < kSaveSlots; ++i)
+        if (!g.rec.slotname[i].empty()) f.saveslot[i].caption = g.rec.slotname[i];
+    f.saveslot[0].value = true;
+}
+
+void load_savefrm(Game& g) {
+    reset_savefrm(g);
+    g.forms.savefrm.loaded = true;
+}
+
+void unload_savefrm(Game& g) {
+    reset_savefrm(g);
+    g.forms.main.visible = true;
+}
+
+void savefrm_save(Game& g) {
+    const int slot = chosen_slot(g.forms.savefrm);
+    if (slot < 0) return;
+    std::string reason;
+    if (!write_save(g.rec, slot_file(slot), reason)) {
+        MsgBox(g,
+               "The game could not be saved in slot " + std::to_string(slot + 1) + " (" +
+                   slot_file(slot).string() + "): " + reason + ".",
+               Buttons::Ok, true);
+        return;
+    }
+    update(g);
+    listupdate(g);
+    g.forms.main.visible = true;
+    unload_savefrm(g);
+    MsgBox(g, "Game Saved");
+}
+
+void savefrm_load(Game& g) {
+    const int slot = chosen_slot(g.forms.savefrm);
+    if (slot < 0) return;
+    std::optional<Module1> loaded = read_save(slot_file(slot), g.rec);
+    if (!loaded) {
+        MsgBox(g, "This file is not valid or does not exist.", Buttons::Ok, true);
+        return;
+    }
+    g.rec = std::move(*loaded);
+    begin_segment(g);
+    unload(g.forms.Form1);
+    update(g);
+    listupdate(g);
+    g.forms.main.visible = true;
+    unload_savefrm(g);
+    updatesonglist(g);
+    MsgBox(g, "Game Loaded");
+}
+
+void savefrm_back(Game& g) {
+    g.forms.savefrm.visible = false;
+}
+
+void savefrm_close(Game& g) {
+    savefrm_back(g);
+}
+
+}  // namespace tourvane

@@ -1,0 +1,100 @@
+#pragma once
+// Record files: a plain run of 128-byte records, one value a record, transferred in order.
+// Save games and the rival bands file are both record files.
+//
+// Encoding, all little-endian: a String is a 16-bit length and that many Windows-1252 bytes,
+// an Integer 16 bits, a Long 32 bits, a Boolean an Integer holding -1 or 0, and a Date an
+// IEEE double counting days from 30 December 1899. A field starts at byte 0 of its record and
+// the rest of the record is filler, written as zeros and never read.
+
+#include <cstddef>
+#include <cstdint>
+#include <filesystem>
+#include <optional>
+#include <span>
+#include <string>
+#include <string_view>
+#include <vector>
+
+#include "core/numeric.h"
+
+namespace tourvane {
+
+inline constexpr std::size_t kRecordBytes = 128;
+
+/// The longest text a record can hold, in Windows-1252 bytes.
+inline constexpr std::size_t kMaxStringBytes = kRecordBytes - 2;
+
+/// Lays records one after another into one buffer, to be written to disk in one go.
+class RecordWriter {
+  public:
+    explicit RecordWriter(std::size_t expected_records = 0) {
+        buf_.reserve(expected_records * kRecordBytes);
+    }
+
+    /// Text in UTF-8, stored in Windows-1252. A character the code page lacks is stored as
+    /// '?', and text beyond 126 bytes is cut.
+    void put_string(std::string_view utf8);
+    void put_integer(Integer v);
+    void put_long(Long v);
+    void put_boolean(Boolean v) { put_integer(v); }
+    void put_date(Date v);
+    /// A record holding the two bytes 00 00.
+    void put_blank() { put_integer(0); }
+
+    const std::vector<std::uint8_t>& bytes() const { return buf_; }
+    std::vector<std::uint8_t> take() { return std::move(buf_); }
+
+  private:
+    std::uint8_t* next_record();
+    std::vector<std::uint8_t> buf_;
+};
+
+/// Reads records in order from bytes in memory. Reading past the end gives empty text and
+/// zeros. A record that can't be trusted (a length word above 126, text running past the end
+/// of the file, a date no calendar holds) marks the whole file as damaged.
+class RecordReader {
+  public:
+    explicit RecordReader(std::span<const std::uint8_t> bytes) : bytes_(bytes) {}
+
+    /// Text converted to UTF-8.
+    std::string get_string();
+    Integer get_integer();
+    Long get_long();
+    Boolean get_boolean() { return get_integer(); }
+    Date get_date();
+    /// Moves past a record unread.
+    void skip() { ++record_; }
+
+    bool damaged() const { return damaged_; }
+    /// How many records have been transferred.
+    std::size_t records_read() const { return record_; }
+
+  private:
+    /// Copies `n` bytes from the start of the current record (zeros past the end of the file)
+    /// and moves on to the next record.
+    void take(std::uint8_t* out, std::size_t n);
+
+    std::span<const std::uint8_t> bytes_;
+    std::size_t record_ = 0;
+    bool damaged_ = false;
+};
+
+/// The earliest and latest days a Date can show: 1 January 100 and 31 December 9999.
+inline constexpr Date kFirstDay = -657434.0;
+inline constexpr Date kLastDay = 2958465.0;
+
+/// Reads the first `limit` bytes of a file (all of a shorter one), in one read. Nothing when
+/// the file is missing or can't be read. Never creates a file.
+std::optional<std::vector<std::uint8_t>> read_file(const std::filesystem::path& path,
+                                                   std::size_t limit);
+
+/// Puts `bytes` in place of the file at `path` without ever leaving it half written: the
+/// bytes go to a new file beside it, flushed to the disk, which is then renamed over the old
+/// one, and the folder is flushed so that the new name lasts through a power cut. On failure
+/// `reason` says what went wrong; the old file is as it was unless only that last flush of
+/// the folder failed.
+bool replace_file(const std::filesystem::path& path, std::span<const std::uint8_t> bytes,
+                  std::string& reason);
+
+}  // namespace tourvane

@@ -1,0 +1,132 @@
+#include "rules/files/save_file.h"
+
+#include <utility>
+
+namespace tourvane {
+
+namespace {
+
+/// Fills the records from the record, in file order.
+struct Saving {
+    RecordWriter w{kSaveRecords};
+    void text(const std::string& v) { w.put_string(v); }
+    void integer(Integer v) { w.put_integer(v); }
+    void long_(Long v) { w.put_long(v); }
+    void boolean(Boolean v) { w.put_boolean(v); }
+    void date(Date v) { w.put_date(v); }
+    void reserved() { w.put_blank(); }
+};
+
+/// Fills the record from the records, in file order.
+struct Loading {
+    RecordReader r;
+    void text(std::string& v) { v = r.get_string(); }
+    void integer(Integer& v) { v = r.get_integer(); }
+    void long_(Long& v) { v = r.get_long(); }
+    void boolean(Boolean& v) { v = r.get_boolean(); }
+    void date(Date& v) { v = r.get_date(); }
+    void reserved() { r.skip(); }
+};
+
+/// The save file's layout: every saved field in the order of its record. `Rec` is Module1
+/// when loading and const Module1 when saving.
+template <class Rec, class Io>
+void transfer(Rec& r, Io& io) {
+    io.text(r.bandname);
+    io.text(r.playername);
+    io.integer(r.popularity);
+    io.boolean(r.signed_);
+    for (int m = 1; m <= kMemberSlots; ++m) {
+        io.text(r.membername[m]);
+        io.integer(r.memberage[m]);
+        io.text(r.membersex[m]);
+        io.integer(r.memberhappy[m]);
+        io.integer(r.memberill[m]);
+        io.integer(r.memberfriction[m]);
+        io.integer(r.membertalent[m]);
+        io.integer(r.membercharisma[m]);
+        io.integer(r.memberattitude[m]);
+        io.integer(r.memberlooks[m]);
+        io.integer(r.membercreativity[m]);
+        io.integer(r.listslot[m]);
+    }
+    for (int s = 1; s <= kSongSlots; ++s) {
+        io.text(r.songname[s]);
+        io.integer(r.songquality[s]);
+        io.boolean(r.released[s]);
+        io.integer(r.chartlife[s]);
+    }
+    io.long_(r.cash);
+    io.integer(r.vacancy);
+    io.integer(r.tiredness);
+    io.integer(r.nextsong);
+    io.integer(r.songcount);
+    io.integer(r.spareword);
+    io.integer(r.songweeks);
+    io.integer(r.interviewkind);
+    io.date(r.gamedate);
+    io.integer(r.promotion);
+    io.reserved();
+    for (int k = 1; k <= kChartRows; ++k) {
+        io.text(r.chartband[k]);
+        io.text(r.charttitle[k]);
+        io.long_(r.chartsales[k]);
+        io.long_(r.chartlastsales[k]);
+        io.integer(r.chartplace[k]);
+        io.integer(r.chartfame[k]);
+        io.integer(r.chartquality[k]);
+        io.integer(r.chartdemand[k]);
+    }
+    // The rival rows' life comes again behind the chart; row 20 stands in both runs and the
+    // second one is what counts.
+    for (int k = kFirstRivalRow; k <= kChartRows; ++k) io.integer(r.chartlife[k]);
+    for (int v = 1; v <= kVenues; ++v) io.boolean(r.venueopen[v]);
+}
+
+}  // namespace
+
+std::filesystem::path slot_file(int slot) {
+    return "tvsave" + std::to_string(slot) + ".tvs";
+}
+
+std::vector<std::uint8_t> save_bytes(const Module1& r) {
+    Saving io;
+    transfer(r, io);
+    return io.w.take();
+}
+
+std::optional<Module1> parse_save(std::span<const std::uint8_t> bytes, const Module1& running) {
+    // Only record 1 decides whether there is a save at all; look before copying anything.
+    RecordReader first(bytes);
+    if (first.get_string().empty() || first.damaged()) return std::nullopt;
+
+    std::optional<Module1> loaded(running);
+    Loading io{RecordReader(bytes)};
+    transfer(*loaded, io);
+    if (io.r.damaged()) return std::nullopt;
+    return loaded;
+}
+
+bool write_save(const Module1& r, const std::filesystem::path& path, std::string& reason) {
+    return replace_file(path, save_bytes(r), reason);
+}
+
+std::optional<Module1> read_save(const std::filesystem::path& path, const Module1& running) {
+    const auto bytes = read_file(path, kSaveBytes);
+    if (!bytes) return std::nullopt;
+    return parse_save(*bytes, running);
+}
+
+std::string read_slot_name(const std::filesystem::path& path) {
+    const auto bytes = read_file(path, kRecordBytes);
+    if (!bytes) return {};
+    RecordReader reader(*bytes);
+    std::string name = reader.get_string();
+    return reader.damaged() ? std::string() : name;
+}
+
+void read_slot_names(Game& g) {
+    for (int i = 0; i < kSaveSlots; ++i) g.rec.slotname[i] = read_slot_name(slot_file(i));
+}
+
+}  // namespace tourvane

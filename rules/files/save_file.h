@@ -1,0 +1,44 @@
+#pragma once
+// Saved games: the layout of a save file and the four slot files in the working directory.
+
+#include <cstdint>
+#include <filesystem>
+#include <optional>
+#include <span>
+#include <string>
+#include <vector>
+
+#include "core/game.h"
+#include "rules/files/record_file.h"
+
+namespace tourvane {
+
+inline constexpr int kSaveRecords = 759;
+inline constexpr std::size_t kSaveBytes = kSaveRecords * kRecordBytes;
+
+/// The file of a save slot (0 to 3): "tvsave0.tvs" to "tvsave3.tvs", in the working directory.
+std::filesystem::path slot_file(int slot);
+
+/// The 759 records of a save of `r`, in the order the file keeps them.
+std::vector<std::uint8_t> save_bytes(const Module1& r);
+
+/// The game a save file's bytes hold: `running` with every saved field replaced from the
+/// file, the rest untouched. Nothing when the bytes are no save: no band name, or a record
+/// that can't be trusted.
+std::optional<Module1> parse_save(std::span<const std::uint8_t> bytes, const Module1& running);
+
+/// Writes the save of `r` to `path`, replacing any save there only once the new one is
+/// whole. On failure the old file is kept and `reason` says why.
+bool write_save(const Module1& r, const std::filesystem::path& path, std::string& reason);
+
+/// Reads the save at `path` over `running` (see parse_save). Nothing when the file is
+/// missing, unreadable or no save.
+std::optional<Module1> read_save(const std::filesystem::path& path, const Module1& running);
+
+/// The band name in the first record of a save file; empty for a missing or damaged file.
+std::string read_slot_name(const std::filesystem::path& path);
+
+/// Reads the band name of each of the four slots into `slotname`, as the title screen loads.
+void read_slot_names(Game& g);
+
+}  // namespace tourvane

@@ -1,0 +1,97 @@
+#include "rules/music/chart.h"
+
+#include "core/forms.h"
+
+namespace tourvane {
+
+namespace {
+constexpr int kPoolEntries = 51;  // rival pool entries 0 to 50 hold named bands
+constexpr int kTopTen = 10;
+
+/// A new record by a band from the rival pool replaces a spent row.
+void replace_row(Game& g, int i) {
+    Module1& r = g.rec;
+    const auto pick = Int(g.rnd() * kPoolEntries);
+    r.chartband[i] = r.rivalname[pick];
+    r.chartfame[i] = r.rivalfame[pick];
+    store(r.chartdemand[i], Int(g.rnd() * 100) + 50);
+    const auto a = Int(g.rnd() * 20) + 1;
+    const auto b = Int(g.rnd() * 20) + 1;
+    r.charttitle[i] = r.titlefirst[a];
+    r.charttitle[i] += r.titlesecond[b];
+    store(r.chartquality[i], Int(g.rnd() * 45) + 30);
+    store(r.chartlife[i], std::int64_t{r.chartquality[i]} * 4 + r.chartfame[i]);
+    r.chartsales[i] = 0;
+    r.chartlastsales[i] = 0;
+}
+}  // namespace
+
+void chart_step(Game& g) {
+    Module1& r = g.rec;
+    for (int i = kFirstRivalRow; i <= kChartRows; ++i) {
+        if (r.chartdemand[i] <= 0) r.chartdemand[i] = 1;
+        r.chartlastsales[i] = r.chartsales[i];
+
+        if (Int(g.rnd() * 2) + 1 == 1)
+            store(r.chartdemand[i], r.chartdemand[i] + Int(g.rnd() * 5) + 1);
+        else
+            store(r.chartdemand[i], r.chartdemand[i] - Int(g.rnd() * 5) + 1);
+        if (r.chartdemand[i] < 0) r.chartdemand[i] = 0;
+
+        if (Int(g.rnd() * 2) + 1 == 1)
+            store(r.chartfame[i], r.chartfame[i] + Int(g.rnd() * 3) + 1);
+        else
+            store(r.chartfame[i], r.chartfame[i] - Int(g.rnd() * 10) + 1);
+        if (r.chartfame[i] < 0) r.chartfame[i] = 0;
+
+        store(g.main.rivalsales, percent_of(r.chartdemand[i], r.chartlife[i]));
+        r.chartsales[i] = g.main.rivalsales;
+
+        store(r.chartlife[i], r.chartlife[i] - (Int(g.rnd() * 100) + 1));
+        if (r.chartlife[i] <= 0) replace_row(g, i);
+    }
+}
+
+void rank_chart(Game& g) {
+    Module1& r = g.rec;
+    for (int i = 1; i <= kChartRows; ++i) r.chartplace[i] = kChartRows;
+    for (int i = 1; i <= kChartRows; ++i) {
+        for (int j = 1; j <= kChartRows; ++j) {
+            if (j == i) continue;
+            // A tie goes to the row of the outer loop: its sales rise by 1 and it then
+            // outsells the other row.
+            if (r.chartsales[i] == r.chartsales[j]) add(r.chartsales[i], 1);
+            if (r.chartsales[i] > r.chartsales[j]) add(r.chartplace[i], -1);
+        }
+    }
+}
+
+void load_Chart(Game& g) {
+    const Module1& r = g.rec;
+    ChartForm& chart = g.forms.Chart;
+    chart.loaded = true;
+    rank_chart(g);
+    for (int place = 1; place <= kTopTen; ++place) {
+        for (int j = 1; j <= kChartRows; ++j) {
+            if (r.chartplace[j] != place) continue;
+            Control& line = chart.track[place];
+            line.color = r.chartband[j] == r.bandname ? colour::kYellow : colour::kBrightWhite;
+            line.caption = r.chartband[j] + " with " + r.charttitle[j];
+        }
+    }
+}
+
+void secret(Game& g) {
+    ChartForm& chart = g.forms.Chart;
+    if (chart.loaded)
+        ++chart.forward_requests;  // already open: only brought forward, not ranked again
+    else
+        load_Chart(g);
+    chart.visible = true;
+}
+
+void Chart_command1(Game& g) {
+    unload(g.forms.Chart);
+}
+
+}  // namespace tourvane

@@ -1,0 +1,24 @@
+#pragma once
+// The music chart: the rival records' weekly step and the chart screen.
+
+#include "core/game.h"
+
+namespace tourvane {
+
+/// The weekly step of the rival rows 20 to 70: demand, fame, sales and life, with spent
+/// records replaced by new records of bands from the rival pool.
+void chart_step(Game& g);
+
+/// Ranks all 70 rows into `chartplace`; a tie lifts the earlier row's sales by 1.
+void rank_chart(Game& g);
+
+/// Music Chart: opens the chart beside the office, or brings it forward if it is open.
+void secret(Game& g);
+
+/// The chart screen's load: ranks the chart and fills the top ten lines.
+void load_Chart(Game& g);
+
+/// OK on the chart screen: closes it.
+void Chart_command1(Game& g);
+
+}  // namespace tourvane
