@@ -41,7 +41,8 @@ CommandLine parse_command_line(const QStringList& arguments) {
         "With --seed the game's random draws start from N instead of the clock, so the same\n"
         "seed and the same clicks give the same game.");
     const QCommandLineOption help({"h", "help"}, "Print this text and exit.");
-    const QCommandLineOption version({"v", "version"}, "Print the version and exit.");
+    const QCommandLineOption version({"v", "version"},
+                                     "Print the version and the licence, and exit.");
     const QCommandLineOption seed("seed", "Start the random draws from the whole number N.", "N");
     const QCommandLineOption measure(
         "measure-startup",
