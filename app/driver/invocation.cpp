@@ -8,7 +8,7 @@ namespace tourvane::driver {
 
 std::string_view usage() {
     return R"(Usage: tourvane-script [--seed N] [FILE]
-       tourvane-script --help
+       tourvane-script --help | --version
 
 Plays Tourvane from a script of commands, read from FILE or from standard input, and
 prints what the player would see, one line per event. The working directory is the game's:
@@ -18,6 +18,7 @@ Options:
   --seed N   seed the fallback random draws with the whole number N (default: the clock);
              the same seed and the same script give the same game and the same transcript
   --help     print this text and exit
+  --version  print the version and the licence, and exit
 
 Commands, one per line (# starts a comment; TEXT is a JSON string literal):
   rnd V1 V2 ...                   queue exact draws, each 0 <= V < 1
@@ -64,6 +65,8 @@ Invocation parse_invocation(const std::vector<std::string_view>& args) {
         const std::string_view a = args[i];
         if (a == "--help" || a == "-h") {
             inv.help = true;
+        } else if (a == "--version" || a == "-v") {
+            inv.version = true;
         } else if (a == "--seed") {
             if (inv.seed) {
                 inv.error = "--seed given twice";

@@ -3,6 +3,7 @@
 #include <QApplication>
 #include <QEvent>
 #include <QScreen>
+#include <QShortcut>
 #include <algorithm>
 
 #include "app/qt/form_skins.h"
@@ -66,7 +67,7 @@ GameWindows::GameWindows(Game& g) : g_(g) {
     views_.emplace_back(make_form_view(f.thenewspaper, newspaper_skin()));
     views_.emplace_back(make_form_view(f.savefrm, files_skin()));
     views_.emplace_back(make_form_view(f.Chart, chart_skin()));
-    const QIcon icon(program_icon());
+    const QIcon icon = program_icons();
     for (auto& v : views_) {
         FormView* view = v.get();
         view->setWindowIcon(icon);
@@ -76,6 +77,12 @@ GameWindows::GameWindows(Game& g) : g_(g) {
                 [this, view](const Control* c, int row) { forward(view, c, row, true); });
     }
     side_ = std::make_unique<SideWindows>(g, *view("main"));
+    std::vector<QWidget*> windows{&side_->diary(), &side_->graph(), &side_->keys()};
+    for (auto& v : views_) windows.push_back(v.get());
+    for (QWidget* window : windows) {
+        auto* shortcut = new QShortcut(quit_key(), window);
+        connect(shortcut, &QShortcut::activated, this, &GameWindows::quit);
+    }
     qApp->installEventFilter(this);
 }
 
@@ -112,6 +119,15 @@ void GameWindows::forward(FormView* view, const Control* control, int index, boo
         shown_.clear();
         emit ended();
     }
+}
+
+void GameWindows::quit() {
+    FormView* title = view("Form1");
+    const bool at_title = title->form().loaded && title->form().visible;
+    FormView* window = at_title ? title : view("main");
+    if (const Control* c =
+            find_control(g_, window->form().name, at_title ? "Label4" : "exitbtn", -1))
+        forward(window, c, -1, false);
 }
 
 void GameWindows::refresh() {

@@ -32,6 +32,11 @@ class GameWindows : public QObject {
     /// The diary, the week graph and the key help, opened from the office.
     SideWindows& side() { return *side_; }
 
+    /// What the quit key does in any window: EXIT while the title is up, else the office's
+    /// quit button, which asks first (and, like any click there, is refused while a screen or
+    /// a memo holds the office up).
+    void quit();
+
   signals:
     /// The program has ended: EXIT, quit, or the memo that ends the game acknowledged.
     void ended();
