@@ -34,7 +34,8 @@ Commands, one per line (# starts a comment; TEXT is a JSON string literal):
   dump                            print every field
   control FORM.CONTROL [INDEX]    print the state of a control
   form FORM                       print whether a screen is loaded, visible and enabled
-  diary                           print every memo and box of this run, oldest first:
+  diary                           print every memo, box and gig report of the career (a load
+                                  brings back the saved one), oldest first:
                                     diary DD/MM/YYYY "FROM" "TEXT"  (boxes are from "Tourvane")
   history                         print cash and popularity at the end of every week played:
                                     week DD/MM/YYYY CASH POPULARITY

@@ -174,12 +174,9 @@ void FormView::refresh(Binding& b) {
             button->setAccessibleName(has_name ? named->second : caption);
             break;
         }
-        case ControlKind::HotSpot: {
-            const QString tip = qs(c.tooltip);
-            w->setToolTip(tip);
-            w->setAccessibleName(has_name ? named->second : tip);
+        case ControlKind::HotSpot:
+            w->setAccessibleName(has_name ? named->second : qs(c.tooltip));
             break;
-        }
         case ControlKind::Option: {
             auto* option = static_cast<QRadioButton*>(w);
             option->setText(literal(c.caption));
@@ -213,6 +210,15 @@ void FormView::refresh(Binding& b) {
             combo->setAccessibleName(has_name ? named->second : QString(c.name));
             break;
         }
+    }
+
+    if (c.kind != ControlKind::Label) {
+        // A grey control says why; enabled again, it has its usual tip back.
+        const std::string reason = !c.enabled && explain_ ? explain_(form_, c) : std::string();
+        const QString tip = qs(reason.empty() ? c.tooltip : reason);
+        w->setToolTip(tip);
+        const bool named_by_tip = c.kind == ControlKind::HotSpot && reason.empty();
+        w->setAccessibleDescription(named_by_tip ? QString() : tip);
     }
 
     const bool coloured = c.rule_colour || (skin_.model_colours && c.kind == ControlKind::Label);

@@ -57,6 +57,11 @@ class FormView : public QWidget {
     /// The widget that shows a control, by key, or nullptr.
     QWidget* widget(std::string_view key) const;
 
+    /// Tells why a disabled control takes no clicks; the view shows it as the control's tool
+    /// tip and accessible description for as long as the control stays disabled.
+    using Explainer = std::function<std::string(const FormState&, const Control&)>;
+    void set_explainer(Explainer explain) { explain_ = std::move(explain); }
+
     /// Gives the keyboard focus to the screen's first control.
     void focus_first();
 
@@ -87,6 +92,7 @@ class FormView : public QWidget {
 
     FormState& form_;
     FormSkin skin_;
+    Explainer explain_;
     std::vector<Binding> bindings_;
 };
 

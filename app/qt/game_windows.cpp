@@ -8,7 +8,9 @@
 
 #include "app/qt/form_skins.h"
 #include "app/qt/pictures.h"
+#include "app/qt/qt_port.h"
 #include "flow/clicks.h"
+#include "flow/reasons.h"
 
 namespace tourvane {
 
@@ -71,6 +73,9 @@ GameWindows::GameWindows(Game& g) : g_(g) {
     for (auto& v : views_) {
         FormView* view = v.get();
         view->setWindowIcon(icon);
+        view->set_explainer([this](const FormState& form, const Control& c) {
+            return disabled_reason(g_, form, c);
+        });
         connect(view, &FormView::controlClicked, this,
                 [this, view](const Control* c, int index) { forward(view, c, index, false); });
         connect(view, &FormView::controlDoubleClicked, this,
@@ -152,8 +157,23 @@ void GameWindows::refresh() {
         bring_forward(shown_.back());
     }
     // A memo stays in front of the office it has disabled.
-    if (FormView* memo = view("messageForm"); memo->isVisible()) bring_forward(memo);
+    if (FormView* memo = view("messageForm"); memo->isVisible()) {
+        bring_forward(memo);
+        announce_memo(*memo);
+    } else {
+        announced_memo_.clear();
+    }
     side_->refresh();
+}
+
+void GameWindows::announce_memo(FormView& memo) {
+    const MemoForm& m = g_.forms.messageForm;
+    std::string shown = m.txtFrom.caption + '\n' + m.thetxt.caption + '\n';
+    shown += std::to_string(g_.memos.size());
+    if (shown == announced_memo_) return;  // still the memo announced before
+    announced_memo_ = std::move(shown);
+    announce(memo, "Message from " + QString::fromStdString(m.txtFrom.caption),
+             QString::fromStdString(m.thetxt.caption), QAccessible::Alert);
 }
 
 void GameWindows::show_view(FormView* view) {

@@ -115,7 +115,7 @@ class WindowsTest : public QObject {
         QWidget* w = h.widget("main", "command6");
         for (const auto& [key, sequence] : tourvane::office_keys()) {
             QWidget* spot = h.widget("main", key.c_str());
-            QCOMPARE(spot->accessibleName(), spot->toolTip());
+            QCOMPARE(spot->accessibleName(), QString::fromStdString(main->control(key)->tooltip));
             QCOMPARE(w, spot);
             w = w->nextInFocusChain();
         }

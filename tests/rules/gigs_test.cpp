@@ -1,5 +1,7 @@
 // Gigs: booking from the office, the gig screen, the score, the crowd, the money and the
 // newspaper report, all driven through the clicks a player makes.
+
+#include "flow/reasons.h"
 #include "rules/gigs/booking.h"
 #include "rules/temp_dir.h"
 #include "rules/test_game.h"
@@ -188,6 +190,10 @@ TEST_F(GigsTest, WorkedExampleFromBookingToOffice) {
     EXPECT_EQ(news.txtnews.caption.substr(104),
               "The best song of the gig was Alpha which really fired up the crowd.");
     EXPECT_EQ(str(news.txtattend.caption, news.txtprofit.caption), "31 £-147");
+    EXPECT_EQ(g.diary.back().from + "|" + g.diary.back().text,
+              "Gig Report|" + news.txtnews.caption + " Attendance: 31. Profit: £-147.");
+    EXPECT_EQ(disabled_reason(g, g.forms.main, g.forms.main.command4),
+              "The band has played its gig this week. Next Week opens gigs again.");
     click(g, "thenewspaper", "Label2");
     EXPECT_EQ(str(g.forms.main.visible, news.loaded, g.forms.main.txtcash.caption), "1 0 £ 2853");
     EXPECT_EQ(click(g, "main", "command4"), ClickResult::NotUsableNow);  // one gig a week
