@@ -67,6 +67,9 @@ struct ControlArray : std::array<Control, N> {
 /// controls. A form declares each control once, as a `Control` or `ControlArray` member made
 /// with `*this`; that declaration is what lists it, in declaration order.
 struct FormState {
+    FormState(const char* form_name, int form_width, int form_height)
+        : name(form_name), width(form_width), height(form_height) {}
+
     const char* name;
     int width;
     int height;

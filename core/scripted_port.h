@@ -20,12 +20,12 @@ struct Shown {
         MisfitAnswer  ///< the queued `answer` did not fit the box with these `buttons`
     };
     Kind kind = Kind::Box;
-    std::string text;
-    std::string title;
+    std::string text{};
+    std::string title{};
     Buttons buttons = Buttons::Ok;
     bool critical = false;
     Answer answer = Answer::Ok;
-    std::string typed;
+    std::string typed{};
 
     bool operator==(const Shown&) const = default;
 };
