@@ -19,6 +19,10 @@ namespace tourvane {
 
 class FormView;
 
+/// Sets what a hover over a control's widget tells: the model's tool tip, else the whole
+/// text when the widget shows it cut (`cut`), which then is also its accessible description.
+void show_whole(QWidget& w, const Control& c, const QString& whole, bool cut);
+
 /// "name" for a single control, "name(i)" for a member of a control array.
 std::string control_key(const Control& c);
 
