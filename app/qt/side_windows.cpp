@@ -47,7 +47,10 @@ void SideWindows::open(QWidget& window) {
                 office_.screen() ? office_.screen() : QGuiApplication::primaryScreen();
             QRect frame(office_.geometry().topLeft() + QPoint(40, 40), window.size());
             if (screen) {
+                // No taller or wider than the desktop, which a scaled one may well be.
                 const QRect area = screen->availableGeometry();
+                frame.setSize(frame.size().boundedTo(area.size()).expandedTo(window.minimumSize()));
+                window.resize(frame.size());
                 frame.moveRight(std::min(frame.right(), area.right()));
                 frame.moveBottom(std::min(frame.bottom(), area.bottom()));
                 frame.moveLeft(std::max(frame.left(), area.left()));

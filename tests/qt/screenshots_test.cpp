@@ -6,6 +6,7 @@
 #include <QDir>
 #include <QRadioButton>
 #include <QRegularExpression>
+#include <QScreen>
 #include <QSet>
 #include <QStyleOptionButton>
 #include <QtTest>
@@ -79,6 +80,7 @@ void no_text_cut(QWidget* view, const QString& file) {
 /// that no text on it is cut off.
 void shoot(QWidget* view, const char* name) {
     QVERIFY2(view->isVisible(), name);
+    QVERIFY2(view->screen()->availableGeometry().contains(view->frameGeometry()), name);
     QDir().mkpath(TOURVANE_SCREENSHOT_DIR);
     const QImage image = view->grab().toImage();
     QCOMPARE(image.size(), view->size() * view->devicePixelRatio());
