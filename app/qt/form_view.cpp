@@ -5,7 +5,6 @@
 #include <QLabel>
 #include <QPainter>
 #include <QRadioButton>
-#include <QScrollBar>
 #include <QShortcut>
 #include <QStyle>
 #include <QStyleOptionButton>

@@ -192,7 +192,10 @@ class ScreenshotsTest : public QObject {
         h.windows->refresh();
         h.click("main", "secret");
         shoot(h.view("Chart"), "Chart");  // beside the office, which still takes clicks
-        QVERIFY(!h.view("Chart")->frameGeometry().intersects(h.view("main")->frameGeometry()));
+        const QRect chart = h.view("Chart")->frameGeometry(),
+                    office = h.view("main")->frameGeometry();
+        const bool room = chart.width() + office.width() < h.view("main")->screen()->size().width();
+        QVERIFY(!room || !chart.intersects(office));
         QCOMPARE(h.widget("Chart", "track(6)")->palette().color(QPalette::WindowText),
                  QColor(255, 255, 0));
         h.click("main", "promote(3)");
