@@ -77,7 +77,7 @@ class WindowsTest : public QObject {
         });
         tourvane::SideWindows& side = h.windows->side();
         for (QWidget* w :
-             {(QWidget*)&side.diary(), (QWidget*)&side.graph(), (QWidget*)&side.keys()})
+             std::initializer_list<QWidget*>{&side.diary(), &side.graph(), &side.keys()})
             QVERIFY(w->minimumSize() != w->maximumSize());
     }
 
