@@ -3,6 +3,8 @@
 #include <QCommandLineParser>
 #include <cstdio>
 
+#include "core/about.h"
+
 namespace tourvane {
 
 namespace {
@@ -28,8 +30,8 @@ int print_and_stop(const CommandLine& line) {
     return line.status;
 }
 
-QString version_line() {
-    return QString("tourvane %1").arg(TOURVANE_VERSION);
+QString version_text() {
+    return QString::fromStdString(tourvane::version_text("tourvane"));
 }
 
 CommandLine parse_command_line(const QStringList& arguments) {
@@ -39,7 +41,8 @@ CommandLine parse_command_line(const QStringList& arguments) {
         "With --seed the game's random draws start from N instead of the clock, so the same\n"
         "seed and the same clicks give the same game.");
     const QCommandLineOption help({"h", "help"}, "Print this text and exit.");
-    const QCommandLineOption version({"v", "version"}, "Print the version and exit.");
+    const QCommandLineOption version({"v", "version"},
+                                     "Print the version and the licence, and exit.");
     const QCommandLineOption seed("seed", "Start the random draws from the whole number N.", "N");
     const QCommandLineOption measure(
         "measure-startup",
@@ -48,6 +51,22 @@ CommandLine parse_command_line(const QStringList& arguments) {
     parser.addOption(version);
     parser.addOption(seed);
     parser.addOption(measure);
+    // Qt's own options, which QApplication takes out of the list later; knowing them here lets
+    // every other mistake be told before a display is needed. Options are words after one dash
+    // too, as Qt writes its own (-platform offscreen).
+    parser.setSingleDashWordOptionMode(QCommandLineParser::ParseAsLongOptions);
+    for (const char* name : {"platform", "platformpluginpath", "platformtheme", "plugin",
+                             "qwindowgeometry", "qwindowicon", "qwindowtitle", "session", "display",
+                             "geometry", "style", "stylesheet", "qmljsdebugger"}) {
+        QCommandLineOption qt(name, "", "value");
+        qt.setFlags(QCommandLineOption::HiddenFromHelp);
+        parser.addOption(qt);
+    }
+    for (const char* name : {"reverse", "widgetcount", "nograb", "dograb", "sync"}) {
+        QCommandLineOption qt(name, "");
+        qt.setFlags(QCommandLineOption::HiddenFromHelp);
+        parser.addOption(qt);
+    }
 
     CommandLine out;
     const QString program = arguments.isEmpty() ? QString("tourvane") : arguments.first();
@@ -57,23 +76,18 @@ CommandLine parse_command_line(const QStringList& arguments) {
         out.output = QString("tourvane: %1\nTry '%2 --help'.\n").arg(why, program);
         return out;
     };
-    if (!parser.parse(arguments)) {
-        out.maybe_qt = true;
-        return fail(parser.errorText());
-    }
+    if (!parser.parse(arguments)) return fail(parser.errorText());
     if (parser.isSet(help)) {
         out.stop = true;
         // The usage line names the program as it was started.
         out.output = parser.helpText().replace("<executable_name>", program);
         return out;
     }
-    if (!parser.positionalArguments().isEmpty()) {
-        out.maybe_qt = true;
+    if (!parser.positionalArguments().isEmpty())
         return fail("unexpected argument '" + parser.positionalArguments().first() + "'");
-    }
     if (parser.isSet(version)) {
         out.stop = true;
-        out.output = version_line() + "\n";
+        out.output = version_text();
         return out;
     }
     out.measure_startup = parser.isSet(measure);

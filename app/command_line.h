@@ -17,18 +17,16 @@ struct CommandLine {
     bool stop = false;
     int status = 0;
     QString output;  ///< for standard output when `status` is 0, else for standard error
-    /// The mistake may be one of Qt's own options (-platform, -style ...): read the
-    /// arguments again once Qt has taken those out.
-    bool maybe_qt = false;
 };
 
-/// Reads the program's arguments, the program's own name first.
+/// Reads the program's arguments, the program's own name first. Qt's own options (-platform,
+/// -style ...) are let through for QApplication, so this needs no QApplication and no display.
 CommandLine parse_command_line(const QStringList& arguments);
 
 /// Prints what a stopping command line has to say; returns the exit status.
 int print_and_stop(const CommandLine& line);
 
-/// "tourvane 1.0.0".
-QString version_line();
+/// What --version prints: the version line, the copyright and the licence.
+QString version_text();
 
 }  // namespace tourvane

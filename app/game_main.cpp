@@ -14,20 +14,17 @@
 #include "flow/office.h"
 
 int main(int argc, char** argv) {
-    // --help, --version and a bad seed are answered before any window is needed; the rest is
-    // read again once Qt has taken its own options (-platform, -style ...) out of the list.
+    // --help, --version and every mistake are answered before a display is needed.
     QStringList raw;
     for (int i = 0; i < argc; ++i) raw << QString::fromLocal8Bit(argv[i]);
-    if (const auto early = tourvane::parse_command_line(raw); early.stop && !early.maybe_qt)
-        return tourvane::print_and_stop(early);
-    QApplication app(argc, argv);
-    const tourvane::CommandLine options = tourvane::parse_command_line(QApplication::arguments());
+    const tourvane::CommandLine options = tourvane::parse_command_line(raw);
     if (options.stop) return tourvane::print_and_stop(options);
+    QApplication app(argc, argv);
     QApplication::setApplicationName("Tourvane");
     QApplication::setApplicationDisplayName("Tourvane");
     QApplication::setDesktopFileName("io.github.tourvane.Tourvane");
     QApplication::setStyle(QStyleFactory::create("Fusion"));
-    QApplication::setWindowIcon(QIcon(tourvane::program_icon()));
+    QApplication::setWindowIcon(tourvane::program_icons());
     // The windows come and go as the game says; only the game's own end quits.
     QApplication::setQuitOnLastWindowClosed(false);
 

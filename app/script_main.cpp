@@ -8,6 +8,7 @@
 
 #include "app/driver/invocation.h"
 #include "app/driver/session.h"
+#include "core/about.h"
 
 int main(int argc, char** argv) {
     using namespace tourvane::driver;
@@ -20,6 +21,10 @@ int main(int argc, char** argv) {
     }
     if (inv.help) {
         std::cout << usage();
+        return 0;
+    }
+    if (inv.version) {
+        std::cout << tourvane::version_text("tourvane-script");
         return 0;
     }
     if (inv.file.empty() || inv.file == "-") return run_script(std::cin, std::cout, inv.seed);

@@ -4,6 +4,7 @@
 // script driver prints it.
 
 #include <array>
+#include <cstddef>
 #include <cstdint>
 #include <string>
 #include <string_view>
@@ -31,10 +32,15 @@ inline constexpr std::uint32_t kYellow = 0xFFFF00;
 inline constexpr std::uint32_t kBrightWhite = 0xFFFFFF;
 inline constexpr std::uint32_t kLightGrey = 0xC0C0C0;
 inline constexpr std::uint32_t kLightCyan = 0x80FFFF;
-inline constexpr std::uint32_t kNavy = 0x000080;
 }  // namespace colour
 
+struct FormState;
+
 struct Control {
+    Control() = default;
+    /// A control of `form`, started as `start`; the form lists it among its controls.
+    Control(FormState& form, Control start);
+
     const char* name = "";
     int index = -1;  ///< index within a control array, -1 for a single control
     ControlKind kind = ControlKind::Label;
@@ -50,6 +56,16 @@ struct Control {
     bool rule_colour = false;  ///< the rules set this label's text colour
 };
 
+/// A control array: element i is made by `start(i)`, and the form lists each element.
+template <std::size_t N>
+struct ControlArray : std::array<Control, N> {
+    template <class Start>
+    ControlArray(FormState& form, Start start);
+};
+
+/// What every screen has: its name, size, whether it is shown and taking clicks, and its
+/// controls. A form declares each control once, as a `Control` or `ControlArray` member made
+/// with `*this`; that declaration is what lists it, in declaration order.
 struct FormState {
     const char* name;
     int width;
@@ -62,116 +78,188 @@ struct FormState {
 
     /// Shown and taking clicks.
     bool usable() const { return loaded && visible && enabled; }
+
+    /// Calls f(Control&) for each control of the form, in declaration order.
+    template <class F>
+    void each(F&& f) {
+        for (std::ptrdiff_t at : controls)
+            f(*reinterpret_cast<Control*>(reinterpret_cast<char*>(this) + at));
+    }
+
+    /// Adds one of the form's own controls to its list.
+    void list(Control& c) {
+        controls.push_back(reinterpret_cast<char*>(&c) - reinterpret_cast<char*>(this));
+    }
+
+    /// Where each control lies within the form, in declaration order.
+    std::vector<std::ptrdiff_t> controls;
+
+  protected:
+    static Control make(const char* name, ControlKind kind, Rect pos, std::string caption = {},
+                        bool enabled = true, int index = -1);
+    static Control label(const char* name, Rect pos, std::string caption = {});
+    static Control click_label(const char* name, Rect pos, std::string caption,
+                               bool enabled = true);
+    static Control hot_spot(const char* name, Rect pos, std::string tooltip, bool enabled = true);
+    static Control option(const char* name, int index, Rect pos, std::string caption);
+    static Control coloured(Control c, std::uint32_t color);
 };
+
+inline Control::Control(FormState& form, Control start) : Control(std::move(start)) {
+    form.list(*this);
+}
+
+template <std::size_t N>
+template <class Start>
+ControlArray<N>::ControlArray(FormState& form, Start start) {
+    for (std::size_t i = 0; i < N; ++i) {
+        (*this)[i] = start(static_cast<int>(i));
+        form.list((*this)[i]);
+    }
+}
 
 /// The title screen.
 struct TitleForm : FormState {
-    TitleForm();
-    Control Label2, New, load, Label4;
-    template <class F>
-    void each(F&& f) {
-        for (Control* c : {&Label2, &New, &load, &Label4}) f(*c);
-    }
+    TitleForm() : FormState{"Form1", 636, 500} {}
+    Control Label2{*this, label("Label2", {0, 10, 641, 41}, "TOURVANE")};
+    Control New{*this, click_label("New", {248, 224, 145, 25}, "NEW GAME")};
+    Control load{*this, click_label("load", {248, 272, 145, 25}, "LOAD GAME")};
+    Control Label4{*this, click_label("Label4", {248, 320, 145, 25}, "EXIT")};
 };
 
 /// The office screen.
 struct OfficeForm : FormState {
-    OfficeForm();
+    OfficeForm() : FormState{"main", 591, 486} {}
     // Hot-spots over the drawn buttons of the office picture, top to bottom.
-    Control command6, label13, command4, secret, command3, command1, interview, holiday, command5;
-    Control txtname, Label3, exitbtn, Label14;
-    std::array<Control, 4> promote;
-    Control Label15, songlist, Label4, txtapplicant, hire, dismiss, Label16, members;
-    Control Label6, txtage, Label5, txtsex, Label7, txtinstrument, Label9, txttalent, Label8,
-        txtcharisma, Label10, txtattitude, Label11, txtlooks;
-    Control Command2, Label19, txtcash, Label20, txtdate;
+    Control command6{*this, hot_spot("command6", {30, 105, 99, 26}, "Next Week")};
+    Control label13{*this, hot_spot("label13", {30, 138, 100, 25}, "Music Lessons")};
+    Control command4{*this, hot_spot("command4", {30, 170, 100, 26}, "Play Gig")};
+    Control secret{*this, hot_spot("secret", {30, 204, 99, 25}, "Music Chart", false)};
+    Control command3{*this, hot_spot("command3", {30, 236, 99, 26}, "Send Demo CD")};
+    Control command1{*this, hot_spot("command1", {29, 269, 101, 26}, "Record Song")};
+    Control interview{*this, hot_spot("interview", {31, 302, 99, 25}, "Interview", false)};
+    Control holiday{*this, hot_spot("holiday", {30, 335, 99, 25}, "Band Holiday")};
+    Control command5{*this, hot_spot("command5", {31, 369, 99, 24}, "Save Game")};
+
+    Control txtname{*this, label("txtname", {56, 8, 521, 49})};
+    Control Label3{*this, label("Label3", {16, 8, 33, 41}, "X")};
+    Control exitbtn{*this, click_label("exitbtn", {16, 8, 33, 49}, "")};
+    Control Label14{*this, label("Label14", {190, 84, 121, 16}, "PROMOTION")};
+    ControlArray<4> promote{*this, promote_option};
+    Control Label15{*this, label("Label15", {155, 176, 185, 17}, "TRACK LIST")};
+    Control songlist{*this, make("songlist", ControlKind::ListBox, {152, 199, 189, 62})};
+    Control Label4{*this, label("Label4", {190, 315, 131, 25}, "APPLICANTS")};
+    Control txtapplicant{*this, label("txtapplicant", {194, 336, 129, 97})};
+    Control hire{*this, click_label("hire", {197, 443, 65, 17}, "HIRE")};
+    Control dismiss{*this, click_label("dismiss", {266, 443, 65, 17}, "DISMISS")};
+    Control Label16{*this, label("Label16", {410, 86, 129, 25}, "BAND MEMBERS")};
+    Control members{*this, make("members", ControlKind::ListBox, {353, 117, 227, 77})};
+    Control Label6{*this, label("Label6", {360, 208, 97, 25}, "Age:")};
+    Control txtage{*this, label("txtage", {464, 208, 97, 25}, "...")};
+    Control Label5{*this, label("Label5", {360, 232, 97, 25}, "Gender:")};
+    Control txtsex{*this, label("txtsex", {464, 232, 97, 25}, "...")};
+    Control Label7{*this, label("Label7", {352, 256, 105, 25}, "Instrument:")};
+    Control txtinstrument{*this, label("txtinstrument", {464, 256, 97, 25}, "...")};
+    Control Label9{*this, label("Label9", {352, 280, 105, 25}, "Talent:")};
+    Control txttalent{*this, label("txttalent", {464, 280, 97, 25}, "...")};
+    Control Label8{*this, label("Label8", {353, 303, 105, 25}, "Charisma:")};
+    Control txtcharisma{*this, label("txtcharisma", {464, 304, 97, 25}, "...")};
+    Control Label10{*this, label("Label10", {368, 328, 89, 25}, "Attitude:")};
+    Control txtattitude{*this, label("txtattitude", {464, 328, 97, 25}, "...")};
+    Control Label11{*this, label("Label11", {352, 352, 105, 25}, "Appearance:")};
+    Control txtlooks{*this, label("txtlooks", {464, 352, 97, 25}, "...")};
+    Control Command2{*this,
+                     click_label("Command2", {392, 384, 161, 17}, "SACK THIS MEMBER", false)};
+    Control Label19{*this, label("Label19", {376, 416, 81, 25}, "CASH:")};
+    Control txtcash{*this, label("txtcash", {448, 418, 129, 25})};
+    Control Label20{*this, label("Label20", {376, 441, 81, 25}, "DATE:")};
+    Control txtdate{*this, label("txtdate", {448, 442, 129, 25})};
 
     /// The nine hot-spots in the order they stand in the picture's left column.
     std::array<Control*, 9> hotspots() {
         return {&command6, &label13,   &command4, &secret,  &command3,
                 &command1, &interview, &holiday,  &command5};
     }
-    template <class F>
-    void each(F&& f) {
-        for (Control* c : hotspots()) f(*c);
-        for (Control* c : {&txtname, &Label3, &exitbtn, &Label14}) f(*c);
-        for (Control& c : promote) f(c);
-        for (Control* c :
-             {&Label15, &songlist,      &Label4,  &txtapplicant, &hire,     &dismiss,
-              &Label16, &members,       &Label6,  &txtage,       &Label5,   &txtsex,
-              &Label7,  &txtinstrument, &Label9,  &txttalent,    &Label8,   &txtcharisma,
-              &Label10, &txtattitude,   &Label11, &txtlooks,     &Command2, &Label19,
-              &txtcash, &Label20,       &txtdate})
-            f(*c);
-    }
+
+  private:
+    static Control promote_option(int index);
 };
 
 /// The memo screen.
 struct MemoForm : FormState {
-    MemoForm();
-    Control Label1, Label2, txtTo, Label3, txtFrom, thetxt, command1;
-    template <class F>
-    void each(F&& f) {
-        for (Control* c : {&Label1, &Label2, &txtTo, &Label3, &txtFrom, &thetxt, &command1}) f(*c);
-    }
+    MemoForm() : FormState{"messageForm", 194, 209} {}
+    Control Label1{*this, label("Label1", {8, 8, 177, 17}, "MESSAGE")};
+    Control Label2{*this, label("Label2", {8, 32, 41, 17}, "TO:")};
+    Control txtTo{*this, label("txtTo", {56, 32, 137, 17})};
+    Control Label3{*this, label("Label3", {8, 48, 41, 17}, "FROM:")};
+    Control txtFrom{*this, label("txtFrom", {56, 48, 137, 17})};
+    Control thetxt{*this, label("thetxt", {16, 80, 161, 97})};
+    Control command1{*this, click_label("command1", {64, 184, 65, 17}, "OK")};
 };
 
 /// The gig booking screen.
 struct GigForm : FormState {
-    GigForm();
-    Control Label16;
-    std::array<Control, 5> location;
-    Control Label4, txtcapacity, Label3, txtticket, Label5, txthire, command1, Label2, Label1,
-        Combo1;
-    std::array<Control, 3> tracks;
-    Control command3, command4, Command2;
-    template <class F>
-    void each(F&& f) {
-        f(Label16);
-        for (Control& c : location) f(c);
-        for (Control* c : {&Label4, &txtcapacity, &Label3, &txtticket, &Label5, &txthire, &command1,
-                           &Label2, &Label1, &Combo1})
-            f(*c);
-        for (Control& c : tracks) f(c);
-        for (Control* c : {&command3, &command4, &Command2}) f(*c);
-    }
+    GigForm() : FormState{"gig", 577, 362} {}
+    Control Label16{*this, label("Label16", {24, 16, 249, 25}, "CHOOSE LOCATION")};
+    ControlArray<5> location{*this, venue_option};
+    Control Label4{*this, label("Label4", {32, 212, 113, 21}, "Capacity:")};
+    Control txtcapacity{*this, label("txtcapacity", {152, 212, 113, 21}, "0")};
+    Control Label3{*this, label("Label3", {32, 238, 113, 21}, "Ticket Price:")};
+    Control txtticket{*this, label("txtticket", {152, 238, 113, 21}, "0")};
+    Control Label5{*this, label("Label5", {32, 264, 113, 21}, "Hire Cost:")};
+    Control txthire{*this, label("txthire", {152, 264, 113, 21}, "0")};
+    Control command1{*this, click_label("command1", {88, 300, 113, 21}, "APPLY", false)};
+    Control Label2{*this, label("Label2", {304, 16, 249, 25}, "CHOOSE TRACKS")};
+    Control Label1{
+        *this, label("Label1", {304, 46, 249, 33}, "Choose the six tracks you are going to play.")};
+    Control Combo1{*this, make("Combo1", ControlKind::ComboBox, {304, 88, 249, 24}, {}, false)};
+    ControlArray<3> tracks{*this, track_line};
+    Control command3{*this, click_label("command3", {304, 222, 113, 21}, "CLEAR LIST", false)};
+    Control command4{*this, click_label("command4", {440, 222, 113, 21}, "PLAY GIG", false)};
+    Control Command2{*this, click_label("Command2", {232, 326, 113, 21}, "BACK")};
+
+  private:
+    static Control venue_option(int index);
+    static Control track_line(int index);
 };
 
 /// The gig report.
 struct NewspaperForm : FormState {
-    NewspaperForm();
-    Control Label3, txtnews, Label1, txtattend, Label5, txtprofit, Label2;
-    template <class F>
-    void each(F&& f) {
-        for (Control* c : {&Label3, &txtnews, &Label1, &txtattend, &Label5, &txtprofit, &Label2})
-            f(*c);
-    }
+    NewspaperForm() : FormState{"thenewspaper", 329, 316} {}
+    Control Label3{*this, label("Label3", {8, 8, 313, 33}, "GIG REPORT")};
+    Control txtnews{*this, label("txtnews", {16, 52, 297, 172})};
+    Control Label1{*this, label("Label1", {16, 232, 97, 21}, "Attendance:")};
+    Control txtattend{*this, label("txtattend", {120, 232, 193, 21}, "0")};
+    Control Label5{*this, label("Label5", {16, 256, 97, 21}, "Profit:")};
+    Control txtprofit{*this, label("txtprofit", {120, 256, 193, 21}, "0")};
+    Control Label2{*this, click_label("Label2", {132, 286, 65, 21}, "OK")};
 };
 
 /// The save and load screen.
 struct SaveForm : FormState {
-    SaveForm();
-    Control Label2;
-    std::array<Control, 4> saveslot;
-    Control save, load, back;
-    template <class F>
-    void each(F&& f) {
-        f(Label2);
-        for (Control& c : saveslot) f(c);
-        for (Control* c : {&save, &load, &back}) f(*c);
-    }
+    SaveForm() : FormState{"savefrm", 245, 247} {}
+    Control Label2{*this, label("Label2", {8, 8, 229, 25}, "FILE OPTIONS")};
+    ControlArray<4> saveslot{*this, slot_option};
+    Control save{*this, make("save", ControlKind::Button, {32, 184, 73, 25}, "Save")};
+    Control load{*this, make("load", ControlKind::Button, {144, 184, 73, 25}, "Load")};
+    Control back{*this, click_label("back", {88, 216, 73, 17}, "BACK")};
+
+  private:
+    static Control slot_option(int index);
 };
 
 /// The music chart.
 struct ChartForm : FormState {
-    ChartForm();
-    std::array<Control, 20> track;
-    Control Label1, Label2, command1;
-    template <class F>
-    void each(F&& f) {
-        for (Control& c : track) f(c);
-        for (Control* c : {&Label1, &Label2, &command1}) f(*c);
-    }
+    ChartForm() : FormState{"Chart", 274, 389} {}
+    ControlArray<20> track{*this, chart_line};
+    Control Label1{*this,
+                   coloured(label("Label1", {8, 8, 267, 31}, "MUSIC CHART"), colour::kBrightWhite)};
+    Control Label2{*this, coloured(label("Label2", {16, 16, 267, 31}, "MUSIC CHART"), 0x000000)};
+    Control command1{*this, click_label("command1", {56, 364, 161, 17}, "OK")};
+
+  private:
+    /// Elements 1 to 10 are the ten places' lines; 0 and 11 to 19 their numbers.
+    static Control chart_line(int index);
 };
 
 struct Forms {

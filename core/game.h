@@ -53,15 +53,19 @@ struct Game {
     /// The program has ended (EXIT, quit, or OK on the memo that ends the game).
     bool ended = false;
 
-    /// Every memo and box of this run in the order shown, loads and the new game included.
+    /// Every memo, box and gig report of this career in the order shown: this run's, after
+    /// those of the runs before it that a load brought back.
     std::vector<DiaryEntry> diary;
 
-    /// The end of every week played through Next Week in this run, oldest first.
+    /// The end of every week played through Next Week in this career, oldest first.
     std::vector<WeekSample> history;
 
     /// Where each stretch of play begins: the start-up, then each load. Segment k of
     /// `history` starts at segments[k].
     std::vector<WeekSample> segments;
+
+    /// How many loads have put another career's history in place of the one before.
+    unsigned history_loads = 0;
 };
 
 }  // namespace tourvane

@@ -1,6 +1,6 @@
 #pragma once
-// A port that answers boxes from queues instead of a person, and reports each box and memo as
-// a transcript line. The script driver prints those lines; tests read them.
+// A port that answers boxes from queues instead of a person, and reports each box, prompt and
+// memo as data. The script driver prints what it reports; tests compare it.
 
 #include <deque>
 #include <functional>
@@ -11,20 +11,35 @@
 
 namespace tourvane {
 
-/// Writes `text` as a JSON string literal.
-std::string json_quote(std::string_view text);
+/// One thing the port showed, with the answer it gave.
+struct Shown {
+    enum class Kind {
+        Box,          ///< a box: `text`, `buttons`, `critical`, and the `answer` given
+        Prompt,       ///< a prompt: `title`, `text` (the question), and the `typed` answer
+        Memo,         ///< a memo: `title` (its sender) and `text`
+        MisfitAnswer  ///< the queued `answer` did not fit the box with these `buttons`
+    };
+    Kind kind = Kind::Box;
+    std::string text;
+    std::string title;
+    Buttons buttons = Buttons::Ok;
+    bool critical = false;
+    Answer answer = Answer::Ok;
+    std::string typed;
+
+    bool operator==(const Shown&) const = default;
+};
 
 class ScriptedPort : public UiPort {
   public:
-    /// Receives one transcript line per box, memo or mismatched answer (no newline).
-    using Sink = std::function<void(const std::string&)>;
+    /// Receives each box, prompt, memo and mismatched answer as it happens.
+    using Sink = std::function<void(const Shown&)>;
 
     explicit ScriptedPort(Sink sink = {}) : sink_(std::move(sink)) {}
 
     void queue_answer(Answer a) { answers_.push_back(a); }
     void queue_input(std::string text) { inputs_.push_back(std::move(text)); }
     std::size_t answers_left() const { return answers_.size(); }
-    std::size_t inputs_left() const { return inputs_.size(); }
 
     /// How many queued answers did not fit the box they met.
     int mismatches() const { return mismatches_; }
@@ -34,8 +49,8 @@ class ScriptedPort : public UiPort {
     void memo_raised(std::string_view from, std::string_view text) override;
 
   private:
-    void emit(const std::string& line) {
-        if (sink_) sink_(line);
+    void report(Shown shown) {
+        if (sink_) sink_(shown);
     }
 
     Sink sink_;

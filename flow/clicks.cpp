@@ -93,7 +93,8 @@ Target resolve(Game& g, std::string_view form_name, std::string_view name, int i
         t.form = &form;
         if (is_control_array(form, name)) {
             t.control = find_control(form, name, index);
-            if (!t.control) t.problem = ClickResult::BadIndex;
+            if (!t.control)
+                t.problem = index < 0 ? ClickResult::NeedsIndex : ClickResult::IndexOutOfBounds;
             return;
         }
         t.control = find_control(form, name, -1);
@@ -101,9 +102,9 @@ Target resolve(Game& g, std::string_view form_name, std::string_view name, int i
             t.problem = ClickResult::UnknownControl;
         } else if (is_list(*t.control)) {
             if (index >= static_cast<int>(t.control->rows.size()))
-                t.problem = ClickResult::BadIndex;
+                t.problem = ClickResult::RowOutOfBounds;
         } else if (index != -1) {
-            t.problem = ClickResult::BadIndex;
+            t.problem = ClickResult::TakesNoIndex;
         }
     });
     if (!known_form) t.problem = ClickResult::UnknownForm;
@@ -131,8 +132,8 @@ Control* find_control(Game& g, std::string_view form, std::string_view control, 
 ClickResult click(Game& g, std::string_view form, std::string_view control, int index) {
     Target t = resolve(g, form, control, index);
     if (t.problem != ClickResult::Done) return t.problem;
-    if (is_list(*t.control) && index < 0) return ClickResult::BadIndex;
-    if (!takes_clicks(t)) return ClickResult::Ignored;
+    if (is_list(*t.control) && index < 0) return ClickResult::NeedsRow;
+    if (!takes_clicks(t)) return ClickResult::NotUsableNow;
 
     if (is_list(*t.control)) t.control->selected = index;
     if (t.control->kind == ControlKind::Option) {
@@ -152,8 +153,8 @@ ClickResult dblclick(Game& g, std::string_view form, std::string_view control, i
     Target t = resolve(g, form, control, row);
     if (t.problem != ClickResult::Done) return t.problem;
     const Rule* rule = find_rule(form, control);
-    if (!rule || !rule->on_dblclick) return ClickResult::UnknownControl;
-    if (!takes_clicks(t)) return ClickResult::Ignored;
+    if (!rule || !rule->on_dblclick) return ClickResult::NotAList;
+    if (!takes_clicks(t)) return ClickResult::NotUsableNow;
     if (row >= 0) {
         ClickResult first = click(g, form, control, row);
         if (first != ClickResult::Done) return first;

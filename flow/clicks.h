@@ -10,11 +10,16 @@
 namespace tourvane {
 
 enum class ClickResult {
-    Done,            ///< the control's rule ran
-    Ignored,         ///< the form or the control does not take clicks now
-    UnknownForm,     ///< no form of that name
-    UnknownControl,  ///< no control of that name on the form, or it takes no such click
-    BadIndex,        ///< index missing, out of bounds, or given where none belongs
+    Done,              ///< the control's rule ran (or it has none: a plain label)
+    NotUsableNow,      ///< the form or the control is hidden or disabled
+    UnknownForm,       ///< no form of that name
+    UnknownControl,    ///< no control of that name on the form
+    NotAList,          ///< a double click on a control that is not a list box
+    TakesNoIndex,      ///< an index given to a single control that is not a list
+    NeedsIndex,        ///< a control array clicked without an index
+    NeedsRow,          ///< a list clicked without a row
+    IndexOutOfBounds,  ///< no element of the control array has that index
+    RowOutOfBounds,    ///< the list has no such row
 };
 
 /// A click on FORM.CONTROL. `index` is the index within a control array, or the row of a list

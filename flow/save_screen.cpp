@@ -6,6 +6,7 @@
 #include "core/ui.h"
 #include "rules/band/applicants.h"
 #include "rules/band/roster.h"
+#include "rules/files/history_file.h"
 #include "rules/files/save_file.h"
 #include "rules/music/songs.h"
 
@@ -18,6 +19,8 @@ void show_savefrm(Game& g) {
     SaveForm& f = g.forms.savefrm;
     if (!f.loaded) load_savefrm(g);
     f.visible = true;
+    // Each slot tells what it holds, as the files stand now.
+    for (int i = 0; i < kSaveSlots; ++i) f.saveslot[i].tooltip = slot_details(i, g.rec);
     // Something must always be chosen while the screen is up: the top slot comes first.
     bool chosen = false;
     for (const Control& c : f.saveslot) chosen = chosen || c.value;
@@ -74,6 +77,7 @@ void savefrm_save(Game& g) {
                Buttons::Ok, true);
         return;
     }
+    write_history(g, slot, save_bytes(g.rec));
     update(g);
     listupdate(g);
     g.forms.main.visible = true;
@@ -89,6 +93,12 @@ void savefrm_load(Game& g) {
         MsgBox(g, "This file is not valid or does not exist.", Buttons::Ok, true);
         return;
     }
+    // The career's diary and weeks come back with it; a game saved with none starts afresh.
+    CareerHistory career = read_history(slot, save_bytes(*loaded));
+    g.diary = std::move(career.diary);
+    g.history = std::move(career.history);
+    g.segments = std::move(career.segments);
+    ++g.history_loads;
     g.rec = std::move(*loaded);
     begin_segment(g);
     unload(g.forms.Form1);
@@ -102,10 +112,6 @@ void savefrm_load(Game& g) {
 
 void savefrm_back(Game& g) {
     g.forms.savefrm.visible = false;
-}
-
-void savefrm_close(Game& g) {
-    savefrm_back(g);
 }
 
 }  // namespace tourvane

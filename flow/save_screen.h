@@ -33,7 +33,4 @@ void savefrm_load(Game& g);
 /// BACK: hides the screen; it keeps its chosen slot and layout for the next opening.
 void savefrm_back(Game& g);
 
-/// The close box on the screen's frame: the same as BACK.
-void savefrm_close(Game& g);
-
 }  // namespace tourvane

@@ -1,16 +1,32 @@
 #!/usr/bin/env bash
-# Installs what building and testing Tourvane needs on Debian, if anything is missing.
-# Safe to run again: it only calls apt-get when a package is not installed yet.
+# Installs what Tourvane needs on Debian, if anything is missing. Safe to run again: it only
+# calls apt-get when a package is not installed yet.
+#
+#   deps.sh play   what building and running the game needs
+#   deps.sh test   that, and what the tests, benchmarks, fuzzing and the package test need
+#
+# As root it runs apt-get itself, as another user through sudo; without sudo it prints what
+# to install and fails.
 set -euo pipefail
 
-packages=(
-  g++ cmake make python3
-  qt6-base-dev libgl-dev fonts-liberation
-  libgtest-dev libgmock-dev libbenchmark-dev
-  clang libclang-rt-14-dev
-  desktop-file-utils appstream
-  xvfb xauth
+play=(
+  g++ cmake make
+  qt6-base-dev qt6-svg-dev libgl-dev qt6-qpa-plugins fonts-liberation
 )
+test=(
+  python3
+  libgtest-dev libgmock-dev libbenchmark-dev
+  clang libclang-rt-dev
+  xvfb xauth
+  desktop-file-utils appstream
+  dpkg-dev fakeroot lintian man-db
+)
+
+case "${1:-}" in
+  play) packages=("${play[@]}") ;;
+  test) packages=("${play[@]}" "${test[@]}") ;;
+  *) echo "usage: deps.sh play|test" >&2; exit 2 ;;
+esac
 
 missing=()
 for p in "${packages[@]}"; do
@@ -18,12 +34,18 @@ for p in "${packages[@]}"; do
     missing+=("$p")
   fi
 done
+[ ${#missing[@]} -eq 0 ] && exit 0
 
-if [ ${#missing[@]} -gt 0 ]; then
-  echo "Installing: ${missing[*]}"
-  sudo=""
-  if [ "$(id -u)" -ne 0 ]; then sudo="sudo"; fi
-  export DEBIAN_FRONTEND=noninteractive
-  $sudo apt-get update -qq
-  $sudo apt-get install -y -qq --no-install-recommends "${missing[@]}"
+sudo=()
+if [ "$(id -u)" -ne 0 ]; then
+  if ! command -v sudo >/dev/null; then
+    echo "Tourvane needs these Debian packages; as root, install them with:" >&2
+    echo "  apt-get install ${missing[*]}" >&2
+    exit 1
+  fi
+  sudo=(sudo)
 fi
+echo "Installing: ${missing[*]}"
+export DEBIAN_FRONTEND=noninteractive
+"${sudo[@]}" apt-get update -qq
+"${sudo[@]}" apt-get install -y -qq --no-install-recommends "${missing[@]}"

@@ -1,11 +1,13 @@
 // make_icons: draws the game's icon at the sizes a desktop asks for, with the very code that
-// draws it in the game's windows, and writes one PNG a size.
+// draws it in the game's windows, and writes one PNG a size and one scalable SVG.
 //
-//   make_icons FOLDER SIZE...   writes FOLDER/SIZExSIZE.png for each SIZE
+//   make_icons FOLDER SIZE...   writes FOLDER/SIZExSIZE.png for each SIZE and FOLDER/icon.svg
 
 #include <QDir>
 #include <QGuiApplication>
+#include <QPainter>
 #include <QPixmap>
+#include <QSvgGenerator>
 #include <cstdio>
 #include <cstdlib>
 
@@ -28,5 +30,17 @@ int main(int argc, char** argv) {
             return 1;
         }
     }
-    return 0;
+    constexpr int kSvgSize = 42;  // the drawing's own units
+    QSvgGenerator svg;
+    svg.setFileName(folder.filePath("icon.svg"));
+    svg.setSize(QSize(kSvgSize, kSvgSize));
+    svg.setViewBox(QRect(0, 0, kSvgSize, kSvgSize));
+    svg.setTitle("Tourvane");
+    QPainter p;
+    if (!p.begin(&svg)) {
+        std::fprintf(stderr, "make_icons: cannot write icon.svg\n");
+        return 1;
+    }
+    tourvane::paint_program_icon(p, kSvgSize);
+    return p.end() ? 0 : 1;
 }

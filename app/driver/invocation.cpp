@@ -8,7 +8,7 @@ namespace tourvane::driver {
 
 std::string_view usage() {
     return R"(Usage: tourvane-script [--seed N] [FILE]
-       tourvane-script --help
+       tourvane-script --help | --version
 
 Plays Tourvane from a script of commands, read from FILE or from standard input, and
 prints what the player would see, one line per event. The working directory is the game's:
@@ -18,6 +18,7 @@ Options:
   --seed N   seed the fallback random draws with the whole number N (default: the clock);
              the same seed and the same script give the same game and the same transcript
   --help     print this text and exit
+  --version  print the version and the licence, and exit
 
 Commands, one per line (# starts a comment; TEXT is a JSON string literal):
   rnd V1 V2 ...                   queue exact draws, each 0 <= V < 1
@@ -33,7 +34,8 @@ Commands, one per line (# starts a comment; TEXT is a JSON string literal):
   dump                            print every field
   control FORM.CONTROL [INDEX]    print the state of a control
   form FORM                       print whether a screen is loaded, visible and enabled
-  diary                           print every memo and box of this run, oldest first:
+  diary                           print every memo, box and gig report of the career (a load
+                                  brings back the saved one), oldest first:
                                     diary DD/MM/YYYY "FROM" "TEXT"  (boxes are from "Tourvane")
   history                         print cash and popularity at the end of every week played:
                                     week DD/MM/YYYY CASH POPULARITY
@@ -64,6 +66,8 @@ Invocation parse_invocation(const std::vector<std::string_view>& args) {
         const std::string_view a = args[i];
         if (a == "--help" || a == "-h") {
             inv.help = true;
+        } else if (a == "--version" || a == "-v") {
+            inv.version = true;
         } else if (a == "--seed") {
             if (inv.seed) {
                 inv.error = "--seed given twice";

@@ -12,6 +12,7 @@ namespace tourvane::driver {
 /// What the command line asks for.
 struct Invocation {
     bool help = false;                  ///< --help: print the usage and stop
+    bool version = false;               ///< --version: print the version and licence, and stop
     std::optional<std::uint64_t> seed;  ///< --seed N
     std::string file;                   ///< the script; empty for standard input
     std::string error;                  ///< why the command line is bad, empty when it is fine

@@ -70,7 +70,7 @@ std::string field_line(const Field& f, int index) {
 }  // namespace
 
 Session::Session(std::ostream& out, std::optional<std::uint64_t> seed)
-    : out_(out), seed_(seed), port_([this](const std::string& line) { print(line); }) {
+    : out_(out), seed_(seed), port_([this](const Shown& shown) { print(transcript_line(shown)); }) {
     game_ = std::make_unique<Game>(port_);
     fields_ = fields(*game_);
 }
@@ -180,32 +180,36 @@ void Session::execute(const Command& c) {
 
 void Session::do_click(const Command& c, bool dbl) {
     Game& g = *game_;
-    const ClickResult r =
-        dbl ? dblclick(g, c.form, c.control, c.index) : click(g, c.form, c.control, c.index);
-    const Control* plain = find_control(g, c.form, c.control, -1);
-    switch (r) {
+    const std::string at = " " + shown_word(c.index_text) + " out of bounds for " + target_name(c);
+    switch (dbl ? dblclick(g, c.form, c.control, c.index) : click(g, c.form, c.control, c.index)) {
         case ClickResult::Done:
             break;
-        case ClickResult::Ignored:
+        case ClickResult::NotUsableNow:
             print("ignored " + c.form + "." + c.control);
             break;
         case ClickResult::UnknownForm:
             error("unknown form " + shown_word(c.form));
             break;
         case ClickResult::UnknownControl:
-            if (plain || is_control_array(g, c.form, c.control))
-                error(target_name(c) + (dbl ? " takes no double click" : " takes no click"));
-            else
-                error("unknown control " + target_name(c));
+            error("unknown control " + target_name(c));
             break;
-        case ClickResult::BadIndex:
-            if (plain && !is_list(*plain) && c.index >= 0)
-                error(target_name(c) + " takes no index");
-            else if (c.index < 0)
-                error(target_name(c) + (plain ? " needs a row" : " needs an index"));
-            else
-                error((plain ? "row " : "index ") + shown_word(c.index_text) +
-                      " out of bounds for " + target_name(c));
+        case ClickResult::NotAList:
+            error(target_name(c) + " takes no double click");
+            break;
+        case ClickResult::TakesNoIndex:
+            error(target_name(c) + " takes no index");
+            break;
+        case ClickResult::NeedsIndex:
+            error(target_name(c) + " needs an index");
+            break;
+        case ClickResult::NeedsRow:
+            error(target_name(c) + " needs a row");
+            break;
+        case ClickResult::IndexOutOfBounds:
+            error("index" + at);
+            break;
+        case ClickResult::RowOutOfBounds:
+            error("row" + at);
             break;
     }
 }

@@ -2,6 +2,7 @@
 
 #include <charconv>
 #include <cmath>
+#include <cstdio>
 #include <limits>
 
 #include "core/numeric.h"
@@ -266,6 +267,78 @@ std::string shown_word(std::string_view word) {
     }
     if (i < word.size()) out += "...";
     return out;
+}
+
+std::string json_quote(std::string_view text) {
+    std::string out = "\"";
+    for (unsigned char c : text) {
+        switch (c) {
+            case '"':
+                out += "\\\"";
+                break;
+            case '\\':
+                out += "\\\\";
+                break;
+            case '\n':
+                out += "\\n";
+                break;
+            case '\r':
+                out += "\\r";
+                break;
+            case '\t':
+                out += "\\t";
+                break;
+            case '\b':
+                out += "\\b";
+                break;
+            case '\f':
+                out += "\\f";
+                break;
+            default:
+                if (c < 0x20) {
+                    char buf[8];
+                    std::snprintf(buf, sizeof buf, "\\u%04x", c);
+                    out += buf;
+                } else {
+                    out += static_cast<char>(c);
+                }
+        }
+    }
+    return out + '"';
+}
+
+namespace {
+
+const char* answer_word(Answer a) {
+    switch (a) {
+        case Answer::Yes:
+            return "yes";
+        case Answer::No:
+            return "no";
+        case Answer::Ok:
+            break;
+    }
+    return "ok";
+}
+
+}  // namespace
+
+std::string transcript_line(const Shown& s) {
+    const char* box = s.buttons == Buttons::Ok ? "ok" : "yesno";
+    switch (s.kind) {
+        case Shown::Kind::Box:
+            return std::string("msgbox ") + box + (s.critical ? " critical " : " ") +
+                   json_quote(s.text) + " -> " + answer_word(s.answer);
+        case Shown::Kind::Prompt:
+            return "inputbox " + json_quote(s.title) + " " + json_quote(s.text) + " -> " +
+                   json_quote(s.typed);
+        case Shown::Kind::Memo:
+            return "memo " + json_quote(s.title) + " " + json_quote(s.text);
+        case Shown::Kind::MisfitAnswer:
+            return std::string("error \"answer ") + answer_word(s.answer) + " does not fit " +
+                   (s.buttons == Buttons::Ok ? "an ok" : "a yesno") + " box\"";
+    }
+    return {};
 }
 
 }  // namespace tourvane::driver

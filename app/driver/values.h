@@ -9,6 +9,7 @@
 #include <string_view>
 
 #include "core/fields.h"
+#include "core/scripted_port.h"
 
 namespace tourvane::driver {
 
@@ -43,5 +44,11 @@ void store_field(const Field& f, int index, std::string_view text);
 
 /// A script word as an error message shows it: valid UTF-8, at most a few dozen characters.
 std::string shown_word(std::string_view word);
+
+/// Writes `text` as a JSON string literal.
+std::string json_quote(std::string_view text);
+
+/// The transcript line of a box, prompt, memo or misfit answer.
+std::string transcript_line(const Shown& shown);
 
 }  // namespace tourvane::driver

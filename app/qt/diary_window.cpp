@@ -53,9 +53,10 @@ class DiaryModel : public QAbstractTableModel {
     DiaryModel(const std::vector<DiaryEntry>& diary, QObject* parent)
         : QAbstractTableModel(parent), diary_(diary) {}
 
-    /// Inserts the entries written since the last call at the top.
-    void sync() {
-        if (diary_.size() < shown_) {  // never happens in a run; start over to be safe
+    /// Inserts the entries written since the last call at the top; after a load has put
+    /// another career's diary in place (`fresh`), shows it from scratch.
+    void sync(bool fresh) {
+        if (fresh || diary_.size() < shown_) {
             beginResetModel();
             shown_ = diary_.size();
             endResetModel();
@@ -241,18 +242,27 @@ DiaryWindow::~DiaryWindow() {
 
 void DiaryWindow::refresh() {
     if (!isVisible()) return;
+    const bool fresh = loads_seen_ != g_.history_loads;
     take_senders();
-    model_->sync();
+    model_->sync(fresh);
+    loads_seen_ = g_.history_loads;
 }
 
 void DiaryWindow::showEvent(QShowEvent* event) {
+    const bool fresh = loads_seen_ != g_.history_loads;
     take_senders();
-    model_->sync();
+    model_->sync(fresh);
+    loads_seen_ = g_.history_loads;
     show_count();
     QWidget::showEvent(event);
 }
 
 void DiaryWindow::take_senders() {
+    if (loads_seen_ != g_.history_loads) {  // another career's diary: its own senders
+        while (senders_->count() > 1) senders_->removeItem(1);
+        seen_senders_.clear();
+        senders_read_ = 0;
+    }
     for (; senders_read_ < g_.diary.size(); ++senders_read_) {
         const DiaryEntry& e = g_.diary[senders_read_];
         if (!seen_senders_.insert(e.from).second) continue;

@@ -48,6 +48,7 @@ class DiaryWindow : public QWidget {
     QLabel* count_;
     std::set<std::string> seen_senders_;
     std::size_t senders_read_ = 0;  ///< diary entries whose sender is in the filter
+    unsigned loads_seen_ = 0;       ///< the game's history loads when the diary was last shown
 };
 
 }  // namespace tourvane

@@ -78,11 +78,10 @@ int caption_room(const QAbstractButton& button, bool option) {
 
 }  // namespace
 
-void show_whole(QWidget& w, const Control& c, const QString& whole, bool cut) {
-    QString tip = QString::fromStdString(c.tooltip);
-    if (cut && tip.isEmpty()) tip = whole;
-    w.setToolTip(tip);
-    w.setAccessibleDescription(cut ? whole : QString());
+QString hover_text(const Control& c, const QString& cut_caption, const QString& reason) {
+    if (reason.isEmpty())
+        return cut_caption.isEmpty() ? QString::fromStdString(c.tooltip) : cut_caption;
+    return cut_caption.isEmpty() ? reason : cut_caption + "\n" + reason;
 }
 
 std::string control_key(const Control& c) {
@@ -194,6 +193,7 @@ void FormView::refresh(Binding& b) {
     const bool has_name = named != skin_.names.end();
     const QString caption = qs(c.caption);
 
+    bool cut = false;  // the caption is shown cut short with "…"
     w->setEnabled(c.enabled);
     switch (c.kind) {
         case ControlKind::Label: {
@@ -205,7 +205,7 @@ void FormView::refresh(Binding& b) {
                                       ? fit_block(caption, label->fontMetrics(), room)
                                       : fit_line(caption, label->fontMetrics(), room.width());
             if (label->text() != shown) label->setText(shown);
-            show_whole(*label, c, caption, shown != caption);
+            cut = shown != caption;
             if (has_name) {
                 label->setAccessibleName(named->second);
                 label->setAccessibleDescription(caption);
@@ -222,15 +222,13 @@ void FormView::refresh(Binding& b) {
                 fit_line(caption, button->fontMetrics(), caption_room(*button, false));
             // Captions of buttons read '&' as a mnemonic; the game's captions mean the character.
             button->setText(QString(shown).replace('&', "&&"));
-            show_whole(*button, c, caption, shown != caption);
+            cut = shown != caption;
             button->setAccessibleName(has_name ? named->second : caption);
             break;
         }
-        case ControlKind::HotSpot: {
-            show_whole(*w, c, {}, false);
+        case ControlKind::HotSpot:
             w->setAccessibleName(has_name ? named->second : qs(c.tooltip));
             break;
-        }
         case ControlKind::Option: {
             auto* option = static_cast<QRadioButton*>(w);
             option->ensurePolished();
@@ -243,7 +241,7 @@ void FormView::refresh(Binding& b) {
                 shown = number + fit_line(caption, font, room - font.horizontalAdvance(number));
             }
             option->setText(QString(shown).replace('&', "&&"));
-            show_whole(*option, c, caption, shown != caption);
+            cut = shown != caption;
             option->setChecked(c.value);
             option->setAccessibleName(has_name ? named->second : caption.simplified());
             break;
@@ -294,6 +292,19 @@ void FormView::refresh(Binding& b) {
             combo->setAccessibleName(has_name ? named->second : QString(c.name));
             break;
         }
+    }
+
+    // A hover tells the whole caption where it is cut short, and a grey control says why;
+    // enabled again, it has its usual tip back.
+    const std::string reason =
+        c.kind != ControlKind::Label && !c.enabled && explain_ ? explain_(form_, c) : std::string();
+    const QString tip = hover_text(c, cut ? caption : QString(), qs(reason));
+    w->setToolTip(tip);
+    if (c.kind != ControlKind::Label) {
+        const bool named_by_tip = c.kind == ControlKind::HotSpot && reason.empty();
+        w->setAccessibleDescription(named_by_tip ? QString() : tip);
+    } else if (!has_name) {
+        w->setAccessibleDescription(cut ? caption : QString());
     }
 
     const bool coloured = c.rule_colour || (skin_.model_colours && c.kind == ControlKind::Label);

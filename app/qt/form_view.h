@@ -19,9 +19,9 @@ namespace tourvane {
 
 class FormView;
 
-/// Sets what a hover over a control's widget tells: the model's tool tip, else the whole
-/// text when the widget shows it cut (`cut`), which then is also its accessible description.
-void show_whole(QWidget& w, const Control& c, const QString& whole, bool cut);
+/// What a hover over a control tells: the whole caption where the widget shows it cut
+/// (`cut_caption`), followed by `reason` (why it is grey) if any; else the model's tool tip.
+QString hover_text(const Control& c, const QString& cut_caption, const QString& reason);
 
 /// "name" for a single control, "name(i)" for a member of a control array.
 std::string control_key(const Control& c);
@@ -61,6 +61,11 @@ class FormView : public QWidget {
     /// The widget that shows a control, by key, or nullptr.
     QWidget* widget(std::string_view key) const;
 
+    /// Tells why a disabled control takes no clicks; the view shows it as the control's tool
+    /// tip and accessible description for as long as the control stays disabled.
+    using Explainer = std::function<std::string(const FormState&, const Control&)>;
+    void set_explainer(Explainer explain) { explain_ = std::move(explain); }
+
     /// Gives the keyboard focus to the screen's first control.
     void focus_first();
 
@@ -91,6 +96,7 @@ class FormView : public QWidget {
 
     FormState& form_;
     FormSkin skin_;
+    Explainer explain_;
     std::vector<Binding> bindings_;
 };
 

@@ -3,11 +3,14 @@
 #include <QApplication>
 #include <QEvent>
 #include <QScreen>
+#include <QShortcut>
 #include <algorithm>
 
 #include "app/qt/form_skins.h"
 #include "app/qt/pictures.h"
+#include "app/qt/qt_port.h"
 #include "flow/clicks.h"
+#include "flow/reasons.h"
 
 namespace tourvane {
 
@@ -66,16 +69,25 @@ GameWindows::GameWindows(Game& g) : g_(g) {
     views_.emplace_back(make_form_view(f.thenewspaper, newspaper_skin()));
     views_.emplace_back(make_form_view(f.savefrm, files_skin()));
     views_.emplace_back(make_form_view(f.Chart, chart_skin()));
-    const QIcon icon(program_icon());
+    const QIcon icon = program_icons();
     for (auto& v : views_) {
         FormView* view = v.get();
         view->setWindowIcon(icon);
+        view->set_explainer([this](const FormState& form, const Control& c) {
+            return disabled_reason(g_, form, c);
+        });
         connect(view, &FormView::controlClicked, this,
                 [this, view](const Control* c, int index) { forward(view, c, index, false); });
         connect(view, &FormView::controlDoubleClicked, this,
                 [this, view](const Control* c, int row) { forward(view, c, row, true); });
     }
     side_ = std::make_unique<SideWindows>(g, *view("main"));
+    std::vector<QWidget*> windows{&side_->diary(), &side_->graph(), &side_->keys()};
+    for (auto& v : views_) windows.push_back(v.get());
+    for (QWidget* window : windows) {
+        auto* shortcut = new QShortcut(quit_key(), window);
+        connect(shortcut, &QShortcut::activated, this, &GameWindows::quit);
+    }
     qApp->installEventFilter(this);
 }
 
@@ -98,7 +110,7 @@ FormView* GameWindows::view_of(const QWidget* window) const {
 void GameWindows::forward(FormView* view, const Control* control, int index, bool double_click) {
     if (ended_) return;
     const char* form = view->form().name;
-    // A refused click (ClickResult::Ignored) changes nothing; the refresh below also puts
+    // A refused click (ClickResult::NotUsableNow) changes nothing; the refresh below also puts
     // back anything the widget did by itself, such as an option marking itself.
     if (double_click)
         dblclick(g_, form, control->name, index);
@@ -112,6 +124,15 @@ void GameWindows::forward(FormView* view, const Control* control, int index, boo
         shown_.clear();
         emit ended();
     }
+}
+
+void GameWindows::quit() {
+    FormView* title = view("Form1");
+    const bool at_title = title->form().loaded && title->form().visible;
+    FormView* window = at_title ? title : view("main");
+    if (const Control* c =
+            find_control(g_, window->form().name, at_title ? "Label4" : "exitbtn", -1))
+        forward(window, c, -1, false);
 }
 
 void GameWindows::refresh() {
@@ -136,8 +157,23 @@ void GameWindows::refresh() {
         bring_forward(shown_.back());
     }
     // A memo stays in front of the office it has disabled.
-    if (FormView* memo = view("messageForm"); memo->isVisible()) bring_forward(memo);
+    if (FormView* memo = view("messageForm"); memo->isVisible()) {
+        bring_forward(memo);
+        announce_memo(*memo);
+    } else {
+        announced_memo_.clear();
+    }
     side_->refresh();
+}
+
+void GameWindows::announce_memo(FormView& memo) {
+    const MemoForm& m = g_.forms.messageForm;
+    std::string shown = m.txtFrom.caption + '\n' + m.thetxt.caption + '\n';
+    shown += std::to_string(g_.memos.size());
+    if (shown == announced_memo_) return;  // still the memo announced before
+    announced_memo_ = std::move(shown);
+    announce(memo, "Message from " + QString::fromStdString(m.txtFrom.caption),
+             QString::fromStdString(m.thetxt.caption), QAccessible::Alert);
 }
 
 void GameWindows::show_view(FormView* view) {

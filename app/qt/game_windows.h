@@ -5,6 +5,7 @@
 
 #include <QObject>
 #include <memory>
+#include <string>
 #include <string_view>
 #include <vector>
 
@@ -32,6 +33,11 @@ class GameWindows : public QObject {
     /// The diary, the week graph and the key help, opened from the office.
     SideWindows& side() { return *side_; }
 
+    /// What the quit key does in any window: EXIT while the title is up, else the office's
+    /// quit button, which asks first (and, like any click there, is refused while a screen or
+    /// a memo holds the office up).
+    void quit();
+
   signals:
     /// The program has ended: EXIT, quit, or the memo that ends the game acknowledged.
     void ended();
@@ -43,6 +49,8 @@ class GameWindows : public QObject {
 
   private:
     void forward(FormView* view, const Control* control, int index, bool double_click);
+    /// Announces the memo on show to assistive technology, once for each memo.
+    void announce_memo(FormView& memo);
     void show_view(FormView* view);
     void place(FormView* view);
     FormView* view_of(const QWidget* window) const;
@@ -53,6 +61,7 @@ class GameWindows : public QObject {
     std::vector<FormView*> shown_;        ///< windows on show, in the order they were opened
     std::vector<FormView*> placed_;       ///< windows that stay where the player left them
     std::vector<unsigned> forward_seen_;  ///< per view, the form's forward requests handled
+    std::string announced_memo_;          ///< the memo last announced, or empty
     bool ended_ = false;
 };
 

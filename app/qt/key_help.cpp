@@ -9,6 +9,7 @@
 
 #include "app/qt/form_skins.h"
 #include "app/qt/window_style.h"
+#include "core/about.h"
 #include "flow/clicks.h"
 
 namespace tourvane {
@@ -22,6 +23,9 @@ QKeySequence graph_key() {
 QKeySequence help_key() {
     return QKeySequence(Qt::Key_F1);
 }
+QKeySequence quit_key() {
+    return QKeySequence(Qt::CTRL | Qt::Key_Q);
+}
 
 namespace {
 
@@ -31,7 +35,7 @@ QString shown(const QKeySequence& k) {
 
 }  // namespace
 
-KeyHelpWindow::KeyHelpWindow(Game& g) : keys_(new QTreeWidget(this)) {
+KeyHelpWindow::KeyHelpWindow(Game& g) : keys_(new QTreeWidget(this)), about_(new QLabel(this)) {
     setObjectName("keyhelp");
     setWindowTitle("Keys");
     setAccessibleName("Keys");
@@ -74,7 +78,8 @@ KeyHelpWindow::KeyHelpWindow(Game& g) : keys_(new QTreeWidget(this)) {
     }
     row(shown(diary_key()), "Open the diary of memos and messages");
     row(shown(graph_key()), "Open the week graph of cash and popularity");
-    row(shown(help_key()), "Show these keys");
+    row(shown(help_key()), "Show these keys and what Tourvane is");
+    row(shown(quit_key()), "Quit, as the Quit button does: the office asks first");
     row("Tab, Shift+Tab", "Move between the buttons, lists and options");
     row("Space, Return", "Press the button that has the focus");
 
@@ -92,7 +97,21 @@ KeyHelpWindow::KeyHelpWindow(Game& g) : keys_(new QTreeWidget(this)) {
 
     section("In this list");
     row("Esc", "Close it");
+    section("In every window");
+    row(shown(quit_key()), "Quit: at once from the title, after a question from elsewhere");
     keys_->expandAll();
+
+    about_->setObjectName("about");
+    about_->setTextFormat(Qt::PlainText);
+    about_->setWordWrap(true);
+    about_->setText(QString("Tourvane %1\n%2\nLicence: %3 (GNU General Public License, "
+                            "version 3 or later)")
+                        .arg(QString::fromUtf8(kVersion.data(), kVersion.size()),
+                             QString::fromUtf8(kWhatItIs.data(), kWhatItIs.size()),
+                             QString::fromUtf8(kLicence.data(), kLicence.size())));
+    about_->setAccessibleName("About Tourvane");
+    auto* about_heading = new QLabel("About", this);
+    about_heading->setProperty("role", "heading");
 
     auto* close = new QPushButton("Close", this);
     close->setAccessibleName("Close the key list");
@@ -104,6 +123,8 @@ KeyHelpWindow::KeyHelpWindow(Game& g) : keys_(new QTreeWidget(this)) {
     auto* layout = new QVBoxLayout(this);
     layout->addWidget(heading);
     layout->addWidget(keys_, 1);
+    layout->addWidget(about_heading);
+    layout->addWidget(about_);
     layout->addLayout(bottom);
 }
 

@@ -2,6 +2,7 @@
 
 #include <QFont>
 #include <QFontMetrics>
+#include <QFontMetricsF>
 #include <QLinearGradient>
 #include <QPaintDevice>
 #include <QPainter>
@@ -542,10 +543,8 @@ void paint_chart(QPainter& p) {
     }
 }
 
-QPixmap program_icon(int size) {
-    QPixmap icon(size, size);
-    icon.fill(Qt::transparent);
-    QPainter p(&icon);
+void paint_program_icon(QPainter& p, qreal size) {
+    p.save();
     p.setRenderHint(QPainter::Antialiasing);
     p.scale(size / 42.0, size / 42.0);
     QPainterPath tile;
@@ -566,9 +565,29 @@ QPixmap program_icon(int size) {
     p.fillPath(pick, shine);
     p.setPen(QPen(QColor(120, 70, 20), 1));
     outline(p, pick);
-    p.setFont(sans(17, true));
-    p.setPen(QColor(40, 24, 30));
-    p.drawText(QRectF(8, 6, 26, 24), Qt::AlignCenter, "T");
+    // The letter as a shape, centred where the text box (8, 6, 26, 24) would put it, so that
+    // a drawing in SVG needs no font.
+    QPainterPath letter;
+    letter.addText(0, 0, sans(17, true), "T");
+    const QRectF box(8, 6, 26, 24);
+    const QFontMetricsF metrics(sans(17, true));
+    letter.translate(box.center().x() - metrics.horizontalAdvance("T") / 2,
+                     box.center().y() + (metrics.ascent() - metrics.descent()) / 2);
+    p.fillPath(letter, QColor(40, 24, 30));
+    p.restore();
+}
+
+QPixmap program_icon(int size) {
+    QPixmap icon(size, size);
+    icon.fill(Qt::transparent);
+    QPainter p(&icon);
+    paint_program_icon(p, size);
+    return icon;
+}
+
+QIcon program_icons() {
+    QIcon icon;
+    for (int size : {16, 22, 24, 32, 48, 64, 128, 256}) icon.addPixmap(program_icon(size));
     return icon;
 }
 

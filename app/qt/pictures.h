@@ -3,6 +3,7 @@
 // stage, the backdrops of the smaller screens and the program's icon.
 
 #include <QChar>
+#include <QIcon>
 #include <QPixmap>
 #include <QRect>
 #include <QString>
@@ -43,5 +44,9 @@ void paint_chart(QPainter& p);
 
 /// The program's icon: a plectrum on a dark tile, `size` pixels square.
 QPixmap program_icon(int size = 42);
+/// The same drawn on any painter (a picture, an SVG file) at `size` units square.
+void paint_program_icon(QPainter& p, qreal size);
+/// The icon at every size a desktop asks of a window, 16 to 256 pixels.
+QIcon program_icons();
 
 }  // namespace tourvane

@@ -1,6 +1,7 @@
 #include "app/qt/qt_port.h"
 
 #include <QApplication>
+#include <QEvent>
 #include <QInputDialog>
 #include <QMessageBox>
 #include <QPalette>
@@ -52,11 +53,38 @@ void dress_box(QDialog& box) {
     box.setStyleSheet(kBoxStyle);
 }
 
+/// Announces a prompt once it is on the screen. (A message box announces itself as an alert.)
+class AnnounceOnShow : public QObject {
+  public:
+    AnnounceOnShow(QDialog& box, QString text) : box_(box), text_(std::move(text)) {}
+    bool eventFilter(QObject* watched, QEvent* event) override {
+        if (watched == &box_ && event->type() == QEvent::Show)
+            announce(box_, box_.windowTitle(), text_, QAccessible::DialogStart);
+        return false;
+    }
+
+  private:
+    QDialog& box_;
+    QString text_;
+};
+
 }  // namespace
 
-void QtPort::present(QDialog& box) {
+void announce(QWidget& w, const QString& name, const QString& description,
+              QAccessible::Event kind) {
+    w.setAccessibleName(name);
+    w.setAccessibleDescription(description);
+    QAccessibleEvent event(&w, kind);
+    QAccessible::updateAccessibility(&event);
+}
+
+void QtPort::present(QDialog& box, const QString& text) {
     box.ensurePolished();
     for (auto* button : box.findChildren<QPushButton*>()) button->setIcon(QIcon());  // plain ink
+    box.setAccessibleName(box.windowTitle());
+    box.setAccessibleDescription(text);
+    AnnounceOnShow on_show(box, text);
+    if (!qobject_cast<QMessageBox*>(&box)) box.installEventFilter(&on_show);
     if (presenter_)
         presenter_(box);
     else
@@ -77,7 +105,7 @@ Answer QtPort::msgbox(std::string_view text, Buttons buttons, bool critical) {
     } else {
         box.setStandardButtons(QMessageBox::Ok);
     }
-    present(box);
+    present(box, qs(text));
     if (buttons == Buttons::Ok) return Answer::Ok;
     return box.clickedButton() == box.button(QMessageBox::Yes) ? Answer::Yes : Answer::No;
 }
@@ -91,7 +119,7 @@ std::string QtPort::inputbox(std::string_view prompt, std::string_view title) {
     box.setTextValue(QString());
     box.setOkButtonText("OK");  // builds the buttons now, so that they too are dressed
     box.setCancelButtonText("Cancel");
-    present(box);
+    present(box, qs(prompt));
     if (box.result() != QDialog::Accepted) return {};
     return box.textValue().toStdString();
 }

@@ -3,6 +3,8 @@
 // a text prompt. Each box is built in full and then handed to a presenter, which by default
 // runs it modally; tests put in a presenter that reads the box and answers it.
 
+#include <QAccessible>
+#include <QString>
 #include <functional>
 
 #include "core/ui_port.h"
@@ -11,6 +13,10 @@ class QDialog;
 class QWidget;
 
 namespace tourvane {
+
+/// Tells assistive technology that `w` has come up with something to say: it is named and
+/// described, and the event of that kind is sent.
+void announce(QWidget& w, const QString& name, const QString& description, QAccessible::Event kind);
 
 class QtPort : public UiPort {
   public:
@@ -24,7 +30,7 @@ class QtPort : public UiPort {
     std::string inputbox(std::string_view prompt, std::string_view title) override;
 
   private:
-    void present(QDialog& box);
+    void present(QDialog& box, const QString& text);
 
     Presenter presenter_;
 };

@@ -382,8 +382,11 @@ WeekGraphWindow::WeekGraphWindow(const Game& g)
 
 void WeekGraphWindow::refresh() {
     if (!isVisible()) return;
-    if (filled_ && weeks_ == g_.history.size() && segments_ == g_.segments.size()) return;
+    if (filled_ && weeks_ == g_.history.size() && segments_ == g_.segments.size() &&
+        loads_ == g_.history_loads)
+        return;
     filled_ = true;
+    loads_ = g_.history_loads;
     weeks_ = g_.history.size();
     segments_ = g_.segments.size();
     view_->set_points(graph_points(g_));

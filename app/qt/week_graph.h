@@ -92,6 +92,7 @@ class WeekGraphWindow : public QWidget {
     WeekGraphView* view_;
     QLabel* readout_;
     std::size_t weeks_ = 0, segments_ = 0;  ///< what the view shows
+    unsigned loads_ = 0;                    ///< of the career it shows
     bool filled_ = false;
 };
 

@@ -1,5 +1,7 @@
 #include "rules/files/record_file.h"
 
+#include <fcntl.h>
+#include <unistd.h>
 #include <algorithm>
 #include <bit>
 #include <cerrno>
@@ -153,8 +155,10 @@ bool replace_file(const std::filesystem::path& path, std::span<const std::uint8_
     }
     std::setvbuf(file.f, nullptr, _IONBF, 0);  // the whole buffer in one write
     errno = 0;
+    // The new file is on the disk before it takes the old one's name, so that a power cut
+    // leaves the old save or the new one, never a torn or empty file.
     const bool written = std::fwrite(bytes.data(), 1, bytes.size(), file.f) == bytes.size() &&
-                         std::fflush(file.f) == 0;
+                         std::fflush(file.f) == 0 && ::fsync(fileno(file.f)) == 0;
     const int write_error = errno;
     const bool closed = file.close();
     if (!written || !closed) {
@@ -167,7 +171,17 @@ bool replace_file(const std::filesystem::path& path, std::span<const std::uint8_
         std::remove(fresh.c_str());
         return false;
     }
-    return true;
+    // And the rename itself is on the disk: the folder is flushed too. A folder that cannot be
+    // read, or a file system that cannot flush one (EINVAL), gives no such promise to keep.
+    std::filesystem::path folder = path.parent_path();
+    if (folder.empty()) folder = ".";
+    const int dir = ::open(folder.c_str(), O_RDONLY | O_DIRECTORY | O_CLOEXEC);
+    if (dir < 0) return true;
+    const bool synced = ::fsync(dir) == 0 || errno == EINVAL;
+    const int sync_error = errno;
+    ::close(dir);
+    if (!synced) reason = describe_errno(sync_error);
+    return synced;
 }
 
 }  // namespace tourvane

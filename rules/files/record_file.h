@@ -90,8 +90,10 @@ std::optional<std::vector<std::uint8_t>> read_file(const std::filesystem::path& 
                                                    std::size_t limit);
 
 /// Puts `bytes` in place of the file at `path` without ever leaving it half written: the
-/// bytes go to a new file beside it, which is then renamed over the old one. On failure the
-/// old file is as it was, and `reason` says what went wrong.
+/// bytes go to a new file beside it, flushed to the disk, which is then renamed over the old
+/// one, and the folder is flushed so that the new name lasts through a power cut. On failure
+/// `reason` says what went wrong; the old file is as it was unless only that last flush of
+/// the folder failed.
 bool replace_file(const std::filesystem::path& path, std::span<const std::uint8_t> bytes,
                   std::string& reason);
 

@@ -2,6 +2,8 @@
 
 #include <utility>
 
+#include "core/ui.h"
+
 namespace tourvane {
 
 namespace {
@@ -107,14 +109,27 @@ std::optional<Module1> parse_save(std::span<const std::uint8_t> bytes, const Mod
     return loaded;
 }
 
+bool write_slot_file(const std::filesystem::path& path, std::span<const std::uint8_t> bytes,
+                     std::string& reason) {
+    return replace_file(path, bytes, reason);
+}
+
 bool write_save(const Module1& r, const std::filesystem::path& path, std::string& reason) {
-    return replace_file(path, save_bytes(r), reason);
+    return write_slot_file(path, save_bytes(r), reason);
 }
 
 std::optional<Module1> read_save(const std::filesystem::path& path, const Module1& running) {
     const auto bytes = read_file(path, kSaveBytes);
     if (!bytes) return std::nullopt;
     return parse_save(*bytes, running);
+}
+
+std::string slot_details(int slot, const Module1& running) {
+    const auto bytes = read_file(slot_file(slot), kSaveBytes);
+    if (!bytes || bytes->empty()) return "Empty slot: no game saved here yet.";
+    const std::optional<Module1> game = parse_save(*bytes, running);
+    if (!game) return "This file is damaged and cannot be loaded.";
+    return game->bandname + ", " + format_date(game->gamedate) + ", " + format_cash(game->cash);
 }
 
 std::string read_slot_name(const std::filesystem::path& path) {

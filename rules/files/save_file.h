@@ -27,6 +27,12 @@ std::vector<std::uint8_t> save_bytes(const Module1& r);
 /// that can't be trusted.
 std::optional<Module1> parse_save(std::span<const std::uint8_t> bytes, const Module1& running);
 
+/// Writes a file of a save slot (the save, or the history beside it) in place of the one at
+/// `path`, only once the new one is whole. On failure the old file is kept and `reason` says
+/// why. Every file a slot keeps is written through here.
+bool write_slot_file(const std::filesystem::path& path, std::span<const std::uint8_t> bytes,
+                     std::string& reason);
+
 /// Writes the save of `r` to `path`, replacing any save there only once the new one is
 /// whole. On failure the old file is kept and `reason` says why.
 bool write_save(const Module1& r, const std::filesystem::path& path, std::string& reason);
@@ -34,6 +40,11 @@ bool write_save(const Module1& r, const std::filesystem::path& path, std::string
 /// Reads the save at `path` over `running` (see parse_save). Nothing when the file is
 /// missing, unreadable or no save.
 std::optional<Module1> read_save(const std::filesystem::path& path, const Module1& running);
+
+/// What a slot holds, for telling the slots apart: the band, the game date and the cash of
+/// its save ("The Wasps, 08/09/2001, £ 3000"), read as a load reads it; or that the slot is
+/// empty, or that its file can't be loaded. Changes nothing.
+std::string slot_details(int slot, const Module1& running);
 
 /// The band name in the first record of a save file; empty for a missing or damaged file.
 std::string read_slot_name(const std::filesystem::path& path);

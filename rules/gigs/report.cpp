@@ -3,6 +3,7 @@
 #include <array>
 #include <string>
 
+#include "core/diary.h"
 #include "core/forms.h"
 #include "core/ui.h"
 #include "rules/band/applicants.h"
@@ -66,6 +67,11 @@ void newspaper(Game& g) {
     r.newstext = first_sentence(r.bandname, g.gig.gigscore, draw(g, 2));
     unload(g.forms.gig);
     load_thenewspaper(g);
+    const NewspaperForm& report = g.forms.thenewspaper;
+    note_in_diary(g, kReportSender,
+                  report.txtnews.caption + " " + report.Label1.caption + " " +
+                      report.txtattend.caption + ". " + report.Label5.caption + " " +
+                      report.txtprofit.caption + ".");
     g.forms.main.command4.enabled = false;
     g.forms.thenewspaper.visible = true;
 }

@@ -2,13 +2,15 @@
 # Installs the build into a temporary prefix and starts the game from there: every file lands
 # where a desktop looks for it and validates, the game reads the installed bands.dat (also
 # once the installed tree has moved), and the menu's launcher runs the game in the player's
-# own folder.
+# own folder. Then the Debian package: what it holds, what lintian says, and the game started
+# from it unpacked.
 #
-#   install_test.sh BUILD_DIR SOURCE_DIR MAKE_BANDS
+#   install_test.sh BUILD_DIR SOURCE_DIR MAKE_BANDS CPACK
 set -euo pipefail
 build="$1"
 source="$2"
 make_bands="$3"
+cpack="$4"
 id=io.github.tourvane.Tourvane
 
 work="$(mktemp -d)"
@@ -40,8 +42,10 @@ if $gui; then
     check "the menu entry starts the launcher" grep -qx "Exec=tourvane-launch" "$desktop"
     check "the menu entry names the icon" grep -qx "Icon=$id" "$desktop"
     check "the AppStream metainfo is valid" appstreamcli validate --no-net "$metainfo"
+    check "the metainfo names the licence" grep -q "<project_license>GPL-3.0-or-later</project_license>" "$metainfo"
     check "the metainfo launches the menu entry" grep -q "<launchable type=\"desktop-id\">$id.desktop</launchable>" "$metainfo"
-    for size in 48 64 128 256; do
+    check "the scalable icon is an SVG" grep -q "<svg" "$prefix/share/icons/hicolor/scalable/apps/$id.svg"
+    for size in 16 22 24 32 48 64 128 256; do
         check "the ${size}px icon is a ${size}x${size} PNG" \
             same "$(png_size "$prefix/share/icons/hicolor/${size}x${size}/apps/$id.png")" "${size}x${size}"
     done
@@ -93,6 +97,28 @@ if $gui; then
         grep -q "the title screen was drawn" <<<"$started"
     check "the launcher made the player's folder" test -d "$work/player/tourvane"
     [ -s "$work/game.err" ] && sed 's/^/  game: /' "$work/game.err"
+fi
+
+if $gui; then
+    "$cpack" -G DEB --config "$build/CPackConfig.cmake" -B "$work/deb" >"$work/cpack.log" 2>&1 ||
+        sed 's/^/  cpack: /' "$work/cpack.log"
+    deb="$(find "$work/deb" -maxdepth 1 -name '*.deb')"
+    dpkg-deb -x "$deb" "$work/root"
+    check "the package has a maintainer with an address" grep -q '^Maintainer: .*<.*@.*>$' <(dpkg-deb -f "$deb")
+    check "the package's dependencies were computed" grep -q '^Depends: .*libqt6widgets6' <(dpkg-deb -f "$deb")
+    check "the package holds the copyright file" \
+        grep -q '^License: GPL-3.0-or-later' "$work/root/usr/share/doc/tourvane/copyright"
+    for page in tourvane tourvane-script; do
+        check "the package holds the manual page $page(6), compressed" \
+            gzip -t "$work/root/usr/share/man/man6/$page.6.gz"
+    done
+    # A build for /usr puts the programs in /usr/games as Debian wants; others keep bin/.
+    keep=()
+    [ -d "$work/root/usr/games" ] || keep=(--suppress-tags package-section-games-but-contains-no-game)
+    check "lintian finds no error in the package" lintian --fail-on error "${keep[@]}" "$deb"
+    game="$(find "$work/root/usr" -name tourvane -type f -perm -u+x)"
+    started="$(cd "$work/play" && QT_QPA_PLATFORM=offscreen timeout 60 "$game" --measure-startup 2>&1 || true)"
+    check "the game starts from the unpacked package" grep -q "the title screen was drawn" <<<"$started"
 fi
 
 echo "install: $((failures == 0 ? 1 : 0)) passed, $((failures > 0 ? 1 : 0)) failed"

@@ -12,6 +12,7 @@ namespace {
 
 using testing::Lines;
 using testing::memo;
+using testing::Rows;
 using testing::str;
 using testing::yesno;
 
@@ -101,7 +102,7 @@ TEST_F(Applicants, HireAtThreeLetsTwoMoreDismissalsThroughThenTheWeekRunsDry) {
     press("hire");
     press("hire");
     for (int s : {2, 3}) EXPECT_EQ(member(s), "Beth Smith|Female|21 4 8 2 6 2 10 0");
-    EXPECT_EQ(f.members.rows, (Lines{"Aaron Johnson", "Beth Smith", "Beth Smith"}));
+    EXPECT_EQ(f.members.rows, (Rows{"Aaron Johnson", "Beth Smith", "Beth Smith"}));
     EXPECT_EQ(str(r.memberill[2], r.practice[2]), "4 3");
     press("dismiss");
     EXPECT_EQ(str(g.main.applicantsseen, panel()), "9 No Applicants");
@@ -144,7 +145,7 @@ TEST_F(Roster, ListClosesGapsAndARowFillsThePanel) {
     r.membername[2] = "None";
     put(3, "Cy Low", {.talent = 4, .charisma = 6, .attitude = 7, .looks = 8, .sex = "Female"});
     listupdate(g);
-    EXPECT_EQ(f.members.rows, (Lines{"Ann Vox", "Cy Low", "Di Kit"}));
+    EXPECT_EQ(f.members.rows, (Rows{"Ann Vox", "Cy Low", "Di Kit"}));
     EXPECT_FALSE(f.Command2.enabled);
     click(g, "main", "members", 1);
     EXPECT_EQ(str(g.main.selectedmember, f.Command2.enabled, f.txtage.caption, f.txtsex.caption,
@@ -194,7 +195,7 @@ TEST_F(Roster, SackedMemberWithFrictionLiftsTheOthersAndLeavesTheSlotHalfKept) {
     no();
     click(g, "main", "Command2");
     EXPECT_EQ(take(), Lines{yesno("Are you sure you want to sack Bob Axe?", false)});
-    EXPECT_EQ(click(g, "main", "Command2"), ClickResult::Ignored);
+    EXPECT_EQ(click(g, "main", "Command2"), ClickResult::NotUsableNow);
     click(g, "main", "members", 1);
     yes();
     applicant({.forename = 2, .surname = 4, .talent = 4, .looks = 6});
@@ -204,7 +205,7 @@ TEST_F(Roster, SackedMemberWithFrictionLiftsTheOthersAndLeavesTheSlotHalfKept) {
     // practice points. The next applicant is for the guitar.
     EXPECT_EQ(member(2), "None|0|20 0 0 0 0 0 4 2");
     EXPECT_EQ(str(r.memberill[2], r.practice[2], r.vacancy), "2 3 2");
-    EXPECT_EQ(f.members.rows, (Lines{"Ann Vox", "Cy Low", "Di Kit"}));
+    EXPECT_EQ(f.members.rows, (Rows{"Ann Vox", "Cy Low", "Di Kit"}));
     EXPECT_EQ(f.txtapplicant.caption.rfind("Adam Jones wants to join the band, he is a "
                                            "reasonable Guitar",
                                            0),
@@ -285,7 +286,7 @@ TEST_F(Training, PracticeStepsUpAtFourPoints) {
     }
     r.membername[3] = "None";  // no practice offered to a band with an empty slot
     command6(g);
-    for (const std::string& line : take()) EXPECT_NE(line.rfind("msgbox", 0), 0u) << line;
+    for (const Shown& s : take()) EXPECT_NE(s.kind, Shown::Kind::Box) << s.text;
 }
 
 TEST_F(Training, LessonsNeedAPickNameTheSubjectOfTheSlotAndCost75) {
@@ -363,11 +364,11 @@ class Interviews : public ::testing::Test, protected testing::TestGame {
 };
 
 TEST_F(Interviews, RadioScoresAndTheSilentTwentyAndSixty) {
-    EXPECT_EQ(click(g, "main", "interview"), ClickResult::Ignored);  // no invitation yet
+    EXPECT_EQ(click(g, "main", "interview"), ClickResult::NotUsableNow);  // no invitation yet
     full_band({.charisma = 6, .attitude = 4});
     radio(3, 6, 10);  // 4 * (3 + 1 + 6) + 10 + 5 = 55
     expect(1, kRadio[1], 13);
-    EXPECT_EQ(click(g, "main", "interview"), ClickResult::Ignored);
+    EXPECT_EQ(click(g, "main", "interview"), ClickResult::NotUsableNow);
     full_band({.charisma = 1, .attitude = 10});  // 1 a member from charisma
     radio(0, 1, 0);
     expect(1, kRadio[0], 2);  // 9, the least a radio interview can score

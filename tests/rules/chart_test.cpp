@@ -97,7 +97,7 @@ TEST_F(ChartStep, PlayerRowsStandStillAndRowTwentyIsARivalRow) {
 class ChartScreen : public testing::Office {
   protected:
     void SetUp() override {
-        EXPECT_EQ(click(g, "main", "secret"), ClickResult::Ignored);  // no full week yet
+        EXPECT_EQ(click(g, "main", "secret"), ClickResult::NotUsableNow);  // no full week yet
         for (int i = 1; i <= 70; ++i) {
             r.chartband[i] = "Band " + std::to_string(i);
             r.charttitle[i] = "Title " + std::to_string(i), r.chartsales[i] = i;
@@ -129,7 +129,7 @@ TEST_F(ChartScreen, AllSalesDifferentAndASnapshotUntilOk) {
     open();  // brought forward only
     EXPECT_EQ(str(g.forms.Chart.forward_requests, top(1), r.chartplace[1]), "1 70 70");
     EXPECT_EQ(click(g, "Chart", "command1"), ClickResult::Done);
-    EXPECT_EQ(click(g, "Chart", "command1"), ClickResult::Ignored);
+    EXPECT_EQ(click(g, "Chart", "command1"), ClickResult::NotUsableNow);
     open();
     EXPECT_EQ(str(top(3), r.chartsales[1]), "1 2 70 5001");
 }

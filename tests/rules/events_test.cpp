@@ -132,7 +132,7 @@ TEST_F(Events, InvitationsNeedMoreThanTwoHundred) {
     EXPECT_EQ(memos().back(),
               memo("Dave", "Great news, Boss. The Band has been invited for a Radio interview!"));
     EXPECT_EQ(str(r.popularity, r.interviewkind), "201 1");
-    EXPECT_EQ(click(g, "main", "interview"), ClickResult::Ignored);  // a memo is open
+    EXPECT_EQ(click(g, "main", "interview"), ClickResult::NotUsableNow);  // a memo is open
 }
 
 }  // namespace

@@ -1,5 +1,7 @@
 // Gigs: booking from the office, the gig screen, the score, the crowd, the money and the
 // newspaper report, all driven through the clicks a player makes.
+
+#include "flow/reasons.h"
 #include "rules/gigs/booking.h"
 #include "rules/temp_dir.h"
 #include "rules/test_game.h"
@@ -9,6 +11,7 @@ namespace {
 
 using testing::Lines;
 using testing::okbox;
+using testing::Rows;
 using testing::str;
 
 /// A full, fit band whose members add nothing to a score, three songs, every venue open.
@@ -51,8 +54,8 @@ class GigsTest : public testing::Office {
     }
     Lines boxes() const {
         Lines out;
-        for (const std::string& l : lines)
-            if (l.rfind("msgbox", 0) == 0) out.push_back(l);
+        for (const Shown& s : lines)
+            if (s.kind == Shown::Kind::Box) out.push_back(s);
         return out;
     }
 };
@@ -88,7 +91,7 @@ TEST_F(GigsTest, OpenVenuesTheirFiguresAndTheApplication) {
     r.venueopen[2] = r.venueopen[5] = 0;
     click(g, "main", "command4");
     const GigForm& f = g.forms.gig;
-    EXPECT_EQ(f.Combo1.rows, (Lines{"Alpha", "Beta", "Gamma"}));
+    EXPECT_EQ(f.Combo1.rows, (Rows{"Alpha", "Beta", "Gamma"}));
     // Until a venue is chosen only the open venues and BACK respond; the office is hidden.
     EXPECT_EQ(str(f.location[0].enabled, f.location[1].enabled, f.location[2].enabled,
                   f.location[3].enabled, f.location[4].enabled, f.command1.enabled,
@@ -187,9 +190,13 @@ TEST_F(GigsTest, WorkedExampleFromBookingToOffice) {
     EXPECT_EQ(news.txtnews.caption.substr(104),
               "The best song of the gig was Alpha which really fired up the crowd.");
     EXPECT_EQ(str(news.txtattend.caption, news.txtprofit.caption), "31 £-147");
+    EXPECT_EQ(g.diary.back().from + "|" + g.diary.back().text,
+              "Gig Report|" + news.txtnews.caption + " Attendance: 31. Profit: £-147.");
+    EXPECT_EQ(disabled_reason(g, g.forms.main, g.forms.main.command4),
+              "The band has played its gig this week. Next Week opens gigs again.");
     click(g, "thenewspaper", "Label2");
     EXPECT_EQ(str(g.forms.main.visible, news.loaded, g.forms.main.txtcash.caption), "1 0 £ 2853");
-    EXPECT_EQ(click(g, "main", "command4"), ClickResult::Ignored);  // one gig a week
+    EXPECT_EQ(click(g, "main", "command4"), ClickResult::NotUsableNow);  // one gig a week
 }
 
 TEST_F(GigsTest, MemberValuesCountByTheirThresholds) {

@@ -12,11 +12,11 @@ namespace {
 using testing::Lines;
 using testing::memo;
 using testing::okbox;
+using testing::Rows;
 using testing::str;
 
-const std::string kStarted =
-    memo("Dave", "Good news, Boss. The band has started writing a new song!");
-const std::string kFinished = memo("Dave", "The band has finished writing a new song!");
+const Shown kStarted = memo("Dave", "Good news, Boss. The band has started writing a new song!");
+const Shown kFinished = memo("Dave", "The band has finished writing a new song!");
 
 class Songs : public testing::Office {
   protected:
@@ -50,8 +50,9 @@ TEST_F(Songs, RestedBandStartsAtOnceTiredBandIsAskedAndYesCostsHappiness) {
         EXPECT_EQ(record(), Lines{kStarted});
         EXPECT_EQ(r.songweeks, k + 3);  // four to seven weeks
     }
-    const std::string tired = testing::yesno(
-        "The band wants a rest before starting on a new song. Make them record anyway?", false);
+    const std::string ask =
+        "The band wants a rest before starting on a new song. Make them record anyway?";
+    const Shown tired = testing::yesno(ask, false);
     r.tiredness = 1, r.songweeks = 10;
     set_happy(0, 10, 5, 1);
     pick(2, 4);
@@ -59,7 +60,7 @@ TEST_F(Songs, RestedBandStartsAtOnceTiredBandIsAskedAndYesCostsHappiness) {
     EXPECT_EQ(record(), Lines{tired});
     EXPECT_EQ(str(happiness(), r.songweeks), "0 10 5 1 10");
     yes();
-    EXPECT_EQ(record(), (Lines{tired.substr(0, tired.size() - 2) + "yes", kStarted}));
+    EXPECT_EQ(record(), (Lines{testing::yesno(ask, true), kStarted}));
     EXPECT_EQ(str(happiness(), r.songweeks, r.tiredness, r.cash), "0 9 4 0 5 1 3000");
 }
 
@@ -80,7 +81,7 @@ TEST_F(Songs, MakesongDrawsQualityInSlotOrderThenTirednessThenTitle) {
     EXPECT_EQ(str(g.rnd.queued_left(), r.songquality[4], r.songname[4], r.tiredness, r.nextsong,
                   r.songcount),
               "0 15 Wild Love 2 4 4");
-    EXPECT_EQ(g.forms.main.songlist.rows, (Lines{"Song 1", "Song 2", "Song 3", "Wild Love"}));
+    EXPECT_EQ(g.forms.main.songlist.rows, (Rows{"Song 1", "Song 2", "Song 3", "Wild Love"}));
     EXPECT_EQ(memos(), Lines{kFinished});
     full_band({.talent = 1, .creativity = 1});  // a band of 1s always writes quality 8
     for (int i = 0; i < 8; ++i) draws({0.999});
@@ -105,10 +106,10 @@ TEST_F(Songs, TheTurnThatFinishesASongLeavesTirednessOneToThree) {
     }
 }
 
-const std::string kSigned =
+const Shown kSigned =
     memo("Dave", "Superstar Records loved the demo tape and have signed the band!");
-const std::string kRejected = memo("Mona", "The record label rejected our demo tape.");
-const std::string kSent = memo("Dave", "We have sent a demo to the record company");
+const Shown kRejected = memo("Mona", "The record label rejected our demo tape.");
+const Shown kSent = memo("Dave", "We have sent a demo to the record company");
 
 class Label : public testing::Office {
   protected:
@@ -144,19 +145,19 @@ TEST_F(Label, VerdictTable) {
         label + "loved the track, but think the band as a whole still needs to develop.";
     const struct {
         int quality, popularity;
-        std::string line;  // empty: no memo
+        Shown line;  // no text: no memo
     } rows[] = {{8, 5000, kRejected},
                 {19, 0, kRejected},
-                {20, 5000, ""},
+                {20, 5000, {}},
                 {21, 0, memo("Mona", ok)},
                 {24, 0, memo("Mona", ok)},
-                {25, 0, ""},
+                {25, 0, {}},
                 {26, 0, memo("Mona", liked)},
                 {29, 0, memo("Mona", liked)},
-                {30, 0, ""},
+                {30, 0, {}},
                 {31, 0, memo("Mona", lot)},
                 {39, 5000, memo("Mona", lot)},
-                {40, 5000, ""},
+                {40, 5000, {}},
                 {41, 999, memo("Mona", develop)},
                 {41, 1000, kSigned},
                 {300, 32000, kSigned}};
@@ -165,7 +166,7 @@ TEST_F(Label, VerdictTable) {
         r.popularity = static_cast<Integer>(row.popularity), r.signed_ = 0, g.main.demosent = -1;
         g.main.selectedsong = 2;
         const bool goes_on = demo_verdict(g);
-        EXPECT_EQ(memos(), row.line.empty() ? Lines{} : Lines{row.line}) << row.quality;
+        EXPECT_EQ(memos(), row.line.text.empty() ? Lines{} : Lines{row.line}) << row.quality;
         EXPECT_EQ(str(goes_on, g.main.demosent, r.signed_),
                   str(row.line != kRejected, 0, row.line == kSigned ? -1 : 0))
             << row.quality;
@@ -228,7 +229,9 @@ TEST_F(Label, RejectedDemoEndsTheWeekAfterTheWages) {
     EXPECT_EQ(send(), Lines{kSent});
 }
 
-const std::string kOffer = "msgbox yesno \"Do you want to release this song as a single?\" -> ";
+Shown offer(bool yes) {
+    return testing::yesno("Do you want to release this song as a single?", yes);
+}
 
 class Singles : public testing::Office {
   protected:
@@ -265,13 +268,13 @@ class Singles : public testing::Office {
 TEST_F(Singles, ReleaseTakes1500AndSetsDemand) {
     r.cash = 1499;
     yes();
-    EXPECT_EQ(dbl(0), (Lines{kOffer + "yes",
-                             memo("Dave", "We don't have enough funds to release a single")}));
+    EXPECT_EQ(dbl(0),
+              (Lines{offer(true), memo("Dave", "We don't have enough funds to release a single")}));
     r.cash = 1500;
     no();
-    EXPECT_EQ(dbl(0), Lines{kOffer + "no"});
+    EXPECT_EQ(dbl(0), Lines{offer(false)});
     yes();
-    EXPECT_EQ(dbl(0), Lines{kOffer + "yes"});
+    EXPECT_EQ(dbl(0), Lines{offer(true)});
     // Demand 30 * 4 + 1000; the chart row shows the single from its first week on.
     EXPECT_EQ(single(1), "hype 0 demand 1120 sales 0, row  /  0 last 0");
     EXPECT_EQ(str(r.released[1], g.forms.main.txtcash.caption), "-1 £ 0");
@@ -335,9 +338,9 @@ TEST_F(Singles, ShelvedSingleOnlyMovesItsHype) {
     r.signed_ = 0, r.popularity = 500, r.released[1] = r.released[3] = -1;
     r.singlehype[1] = r.singlehype[2] = 10, r.singledemand[1] = 300;
     r.singlesales[1] = r.chartsales[1] = 40, r.chartlastsales[1] = 12, r.chartband[1] = "The Wasps";
-    click(g, "main", "promote", 3);  // High adds nothing without the contract
-    for (const std::string& line : week({{1, 2}, {2, 2}}))
-        EXPECT_EQ(line.find("msgbox ok"), std::string::npos);
+    click(g, "main", "promote", 3);                // High adds nothing without the contract
+    for (const Shown& s : week({{1, 2}, {2, 2}}))  // the practice question only
+        EXPECT_TRUE(s.kind != Shown::Kind::Box || s.buttons == Buttons::YesNo) << s.text;
     EXPECT_EQ(single(1), "hype 11 demand 300 sales 40, row The Wasps /  40 last 12");
     EXPECT_EQ(r.singlehype[2] * 100 + r.singlehype[3], 1000);  // only released songs move
     EXPECT_EQ(r.cash, 3000 - 400 - 4);

@@ -19,14 +19,15 @@ namespace tourvane {
 namespace {
 
 using testing::Lines;
+using testing::Rows;
 using testing::str;
 using testing::TestGame;
 using Bytes = std::vector<std::uint8_t>;
 
-std::string critical(std::string_view text) {
-    return "msgbox ok critical " + json_quote(text) + " -> ok";
+Shown critical(std::string_view text) {
+    return testing::okbox(text, true);
 }
-const std::string kNotValid = critical("This file is not valid or does not exist.");
+const Shown kNotValid = critical("This file is not valid or does not exist.");
 
 /// The byte offset of record n (counted from 1), and n bytes from there.
 std::size_t at(int record) {
@@ -281,9 +282,9 @@ TEST_F(InTempDir, LoadFromTheTitleScreenResumesTheGame) {
     const OfficeForm& office = t.g.forms.main;
     EXPECT_EQ(str(t.g.forms.Form1.loaded, f.loaded, office.visible, t.r.singlehype[1],
                   office.txtcash.caption),
-              "0 0 1 55 £ 1234");                                             // update
-    EXPECT_EQ(office.members.rows, (Lines{"Ann Vox", "Bob Axe", "Di Kit"}));  // listupdate
-    EXPECT_EQ(office.songlist.rows, (Lines{"Song 1", "Song 2"}));             // updatesonglist
+              "0 0 1 55 £ 1234");                                            // update
+    EXPECT_EQ(office.members.rows, (Rows{"Ann Vox", "Bob Axe", "Di Kit"}));  // listupdate
+    EXPECT_EQ(office.songlist.rows, (Rows{"Song 1", "Song 2"}));             // updatesonglist
 }
 
 TEST_F(InTempDir, RefusedLoadLeavesTheRunningGameExactlyAsItWasAndBackHidesTheScreen) {
@@ -305,7 +306,7 @@ TEST_F(InTempDir, RefusedLoadLeavesTheRunningGameExactlyAsItWasAndBackHidesTheSc
     EXPECT_TRUE(f.loaded && !f.visible);
     click(t.g, "main", "command5");  // the next opening finds it as left
     EXPECT_TRUE(f.saveslot[3].value && !f.saveslot[0].value);
-    savefrm_close(t.g);  // the frame's close box
+    savefrm_back(t.g);
     EXPECT_TRUE(f.loaded && !f.visible);
 }
 

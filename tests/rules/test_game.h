@@ -1,5 +1,5 @@
 #pragma once
-// A game for rule tests: boxes answered from queues, transcript lines collected, every draw
+// A game for rule tests: boxes answered from queues, what they showed collected, every draw
 // pinned by the whole number it gives.
 
 #include <gtest/gtest.h>
@@ -18,9 +18,18 @@
 #include "rules/band/applicants.h"
 #include "rules/music/songs.h"
 
+namespace tourvane {
+/// How a failing test shows what the port showed.
+inline void PrintTo(const Shown& s, std::ostream* out) {
+    *out << "{kind " << static_cast<int>(s.kind) << ", \"" << s.title << "\", \"" << s.text
+         << "\", answer " << static_cast<int>(s.answer) << ", \"" << s.typed << "\"}";
+}
+}  // namespace tourvane
+
 namespace tourvane::testing {
 
-using Lines = std::vector<std::string>;
+using Lines = std::vector<Shown>;
+using Rows = std::vector<std::string>;
 
 /// The values written one after another with a blank between, to compare several at once.
 template <class... T>
@@ -45,7 +54,7 @@ struct Applicant {
 class TestGame {
   public:
     Lines lines;
-    ScriptedPort port{[this](const std::string& line) { lines.push_back(line); }};
+    ScriptedPort port{[this](const Shown& shown) { lines.push_back(shown); }};
     Game g{port};
     Module1& r = g.rec;
 
@@ -155,18 +164,18 @@ class TestGame {
         while (!g.memos.empty() && !g.ended) memo_ok(g);
     }
 
-    /// The transcript lines collected so far, and forgets them.
+    /// What the port showed so far, and forgets it.
     Lines take() {
         Lines out;
         out.swap(lines);
         return out;
     }
 
-    /// The memo lines collected so far, and forgets all lines.
+    /// The memos shown so far, and forgets all that was shown.
     Lines memos() {
         Lines out;
-        for (const std::string& l : take())
-            if (l.rfind("memo ", 0) == 0) out.push_back(l);
+        for (const Shown& s : take())
+            if (s.kind == Shown::Kind::Memo) out.push_back(s);
         return out;
     }
 };
@@ -176,15 +185,18 @@ struct Office : ::testing::Test, TestGame {
     Office() { new_game().full_band(); }
 };
 
-/// The transcript lines of a memo and of the boxes.
-inline std::string memo(std::string_view from, std::string_view text) {
-    return "memo " + json_quote(from) + " " + json_quote(text);
+/// A memo, and the boxes as the port reports them.
+inline Shown memo(std::string_view from, std::string_view text) {
+    return {.kind = Shown::Kind::Memo, .text = std::string(text), .title = std::string(from)};
 }
-inline std::string okbox(std::string_view text) {
-    return "msgbox ok " + json_quote(text) + " -> ok";
+inline Shown okbox(std::string_view text, bool critical = false) {
+    return {.kind = Shown::Kind::Box, .text = std::string(text), .critical = critical};
 }
-inline std::string yesno(std::string_view text, bool yes) {
-    return "msgbox yesno " + json_quote(text) + (yes ? " -> yes" : " -> no");
+inline Shown yesno(std::string_view text, bool yes) {
+    return {.kind = Shown::Kind::Box,
+            .text = std::string(text),
+            .buttons = Buttons::YesNo,
+            .answer = yes ? Answer::Yes : Answer::No};
 }
 
 }  // namespace tourvane::testing

@@ -82,7 +82,7 @@ TEST(Turn, WagesEqualToCashLeaveNothingOneMoreEndsTheGameAndItsMemoIsTheLast) {
         message(t.g, "late", "Dave");
         EXPECT_EQ(str(t.r.cash, t.r.gamedate, t.g.game_over, t.g.memos.size()),
                   cash == 10 ? "0 37142 0 1" : "9 37142 1 1");  // the date moves first
-        EXPECT_EQ(click(t.g, "main", "command6"), ClickResult::Ignored);
+        EXPECT_EQ(click(t.g, "main", "command6"), ClickResult::NotUsableNow);
         click(t.g, "messageForm", "command1");
         EXPECT_EQ(t.g.ended, cash == 9);
     }

@@ -13,12 +13,13 @@ LOOK_BACK = re.compile(rb"^(diary|week) \d\d/\d\d/\d+ ")
 
 
 def run(driver, text, seed="5"):
+    """Each part of the script after a "# next run" line is a new run in the same folder."""
     with tempfile.TemporaryDirectory() as work:
-        with open(os.path.join(work, "s.tvs"), "w", encoding="utf-8") as f:
-            f.write(text)
-        done = subprocess.run([driver, "--seed", seed, "s.tvs"], cwd=work, capture_output=True,
-                              timeout=60)
-    return done.returncode, [l for l in done.stdout.splitlines() if not LOOK_BACK.match(l)]
+        done = [subprocess.run([driver, "--seed", seed], input=part.encode(), cwd=work,
+                               capture_output=True, timeout=60)
+                for part in re.split(r"(?m)^# next run\n", text)]
+    out = b"".join(d.stdout for d in done).splitlines()
+    return [d.returncode for d in done], [l for l in out if not LOOK_BACK.match(l)]
 
 
 def looking_back(text):

@@ -1,0 +1,45 @@
+#pragma once
+// A career's history kept beside its save: the diary and the week samples, written with each
+// save into "tvsave0.tvh" to "tvsave3.tvh" and brought back by a load. The file is bound to
+// the save it was written with, so a history never joins another game.
+
+#include <cstdint>
+#include <filesystem>
+#include <optional>
+#include <span>
+#include <string>
+#include <vector>
+
+#include "core/game.h"
+
+namespace tourvane {
+
+/// The diary and the week samples of one career.
+struct CareerHistory {
+    std::vector<DiaryEntry> diary;
+    std::vector<WeekSample> history;
+    std::vector<WeekSample> segments;
+};
+
+/// The history file beside a slot's save (0 to 3): "tvsave0.tvh" to "tvsave3.tvh".
+std::filesystem::path history_file(int slot);
+
+/// A mark of a save's bytes that its history file carries.
+std::uint64_t save_mark(std::span<const std::uint8_t> save);
+
+/// The bytes of a history file for the game of `g`, bound to the save with mark `mark`.
+std::vector<std::uint8_t> history_bytes(const Game& g, std::uint64_t mark);
+
+/// The history the bytes hold, if they are a whole history file bound to the save with mark
+/// `mark`; nothing for damaged, foreign or another save's bytes.
+std::optional<CareerHistory> parse_history(std::span<const std::uint8_t> bytes, std::uint64_t mark);
+
+/// Writes the history of `g` beside the slot's save just written (`save` its bytes). When it
+/// can't be written, no older history is left behind to join the new save.
+void write_history(const Game& g, int slot, std::span<const std::uint8_t> save);
+
+/// The history kept for the save in `slot` whose bytes are `save`; empty when there is none
+/// that belongs to it.
+CareerHistory read_history(int slot, std::span<const std::uint8_t> save);
+
+}  // namespace tourvane
