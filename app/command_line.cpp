@@ -3,25 +3,10 @@
 #include <QCommandLineParser>
 #include <cstdio>
 
+#include "app/driver/invocation.h"
 #include "core/about.h"
 
 namespace tourvane {
-
-namespace {
-
-constexpr const char* kSeedError = "--seed needs a whole number from 0 to 18446744073709551615";
-
-std::optional<std::uint64_t> read_seed(const QString& text) {
-    if (text.isEmpty()) return std::nullopt;
-    for (QChar c : text)
-        if (c < '0' || c > '9') return std::nullopt;
-    bool ok = false;
-    const qulonglong v = text.toULongLong(&ok);
-    if (!ok) return std::nullopt;
-    return static_cast<std::uint64_t>(v);
-}
-
-}  // namespace
 
 int print_and_stop(const CommandLine& line) {
     std::FILE* to = line.status == 0 ? stdout : stderr;
@@ -93,8 +78,8 @@ CommandLine parse_command_line(const QStringList& arguments) {
     out.measure_startup = parser.isSet(measure);
     if (parser.isSet(seed)) {
         if (parser.values(seed).size() > 1) return fail("--seed given twice");
-        out.seed = read_seed(parser.value(seed));
-        if (!out.seed) return fail(kSeedError);
+        out.seed = driver::parse_seed(parser.value(seed).toStdString());
+        if (!out.seed) return fail(driver::kSeedError);
     }
     return out;
 }

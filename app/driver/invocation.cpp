@@ -45,8 +45,6 @@ error line, 2 for a bad command line.
 )";
 }
 
-namespace {
-
 std::optional<std::uint64_t> parse_seed(std::string_view text) {
     if (text.empty()) return std::nullopt;
     for (char c : text)
@@ -56,8 +54,6 @@ std::optional<std::uint64_t> parse_seed(std::string_view text) {
     if (ec != std::errc() || ptr != text.data() + text.size()) return std::nullopt;
     return v;
 }
-
-}  // namespace
 
 Invocation parse_invocation(const std::vector<std::string_view>& args) {
     Invocation inv;
@@ -75,7 +71,7 @@ Invocation parse_invocation(const std::vector<std::string_view>& args) {
             }
             inv.seed = i + 1 < args.size() ? parse_seed(args[i + 1]) : std::nullopt;
             if (!inv.seed) {
-                inv.error = "--seed needs a whole number from 0 to 18446744073709551615";
+                inv.error = kSeedError;
                 return inv;
             }
             ++i;

@@ -21,6 +21,11 @@ struct Invocation {
 /// The usage text printed by --help and after a bad command line.
 std::string_view usage();
 
+/// What `--seed` takes: a plain whole number from 0 to 2^64 - 1.
+std::optional<std::uint64_t> parse_seed(std::string_view text);
+inline constexpr const char* kSeedError =
+    "--seed needs a whole number from 0 to 18446744073709551615";
+
 /// Reads the arguments after the program name.
 Invocation parse_invocation(const std::vector<std::string_view>& args);
 

@@ -92,5 +92,21 @@ TEST(Session, AMismatchedAnswerIsAnErrorAndTheEndStopsTheScript) {
     EXPECT_EQ(run_script(bad, out, 1), 1);
 }
 
+TEST(Session, EveryControlOfEveryFormAnswersTheControlCommand) {
+    Script r;
+    r.lines("rndleft");
+    int walked = 0;
+    r.s.game().forms.each_form([&](FormState& form) {
+        form.each([&](Control& c) {
+            std::string line = std::string("control ") + form.name + "." + c.name;
+            if (c.index >= 0) line += " " + std::to_string(c.index);
+            EXPECT_EQ(r.lines(line).rfind(line.substr(0, line.find(' ', 8)), 0), 0u) << line;
+            ++walked;
+        });
+    });
+    EXPECT_EQ(walked,
+              4 + 44 + 7 + 22 + 7 + 8 + 23);  // title, office, memo, gig, report, save, chart
+}
+
 }  // namespace
 }  // namespace tourvane::driver
