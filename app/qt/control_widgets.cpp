@@ -4,8 +4,17 @@
 #include <QMouseEvent>
 #include <QPainter>
 #include <QPainterPath>
+#include <QScrollBar>
+#include <algorithm>
 
 namespace tourvane {
+
+namespace {
+
+/// The room a row's text loses to the padding of the row in the screens' style.
+constexpr int kRowPadding = 6;
+
+}  // namespace
 
 HotSpot::HotSpot(QWidget* parent) : QAbstractButton(parent) {
     setFocusPolicy(Qt::StrongFocus);
@@ -58,6 +67,22 @@ ListBox::ListBox(QWidget* parent) : QListWidget(parent) {
     setEditTriggers(QAbstractItemView::NoEditTriggers);
     setDragEnabled(false);
     setFocusPolicy(Qt::StrongFocus);
+    setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);  // rows too long are cut with "…"
+}
+
+void ListBox::fit_whole_rows() {
+    ensurePolished();
+    row_height_ = fontMetrics().height() + 2;
+    const int frame = 2 * frameWidth();
+    whole_rows_ = std::max(1, (height() - frame) / row_height_);
+    setFixedHeight(whole_rows_ * row_height_ + frame);
+    setUniformItemSizes(true);
+    setVerticalScrollMode(QAbstractItemView::ScrollPerItem);
+}
+
+int ListBox::row_room(int rows) const {
+    const int bar = rows > whole_rows_ ? verticalScrollBar()->sizeHint().width() : 0;
+    return width() - 2 * frameWidth() - bar - kRowPadding;
 }
 
 void ListBox::mousePressEvent(QMouseEvent* event) {

@@ -40,6 +40,13 @@ class ListBox : public QListWidget {
   public:
     explicit ListBox(QWidget* parent = nullptr);
 
+    /// Makes the box as tall as the whole rows that fit its given height, so that no row is
+    /// shown cut; call once its style sheet is in force.
+    void fit_whole_rows();
+    int row_height() const { return row_height_; }
+    /// The width a row's text has when the box holds `rows` rows.
+    int row_room(int rows) const;
+
   signals:
     void rowClicked(int row);
     void rowDoubleClicked(int row);
@@ -50,6 +57,10 @@ class ListBox : public QListWidget {
     void mouseMoveEvent(QMouseEvent* event) override;
     void mouseDoubleClickEvent(QMouseEvent* event) override;
     void keyPressEvent(QKeyEvent* event) override;
+
+  private:
+    int row_height_ = 0;
+    int whole_rows_ = 1;
 };
 
 }  // namespace tourvane

@@ -7,6 +7,7 @@
 #include <QRadioButton>
 #include <QShortcut>
 #include <QStyle>
+#include <QStyleOptionButton>
 
 #include "app/qt/control_widgets.h"
 
@@ -16,11 +17,6 @@ namespace {
 
 QString qs(const std::string& text) {
     return QString::fromStdString(text);
-}
-
-/// Captions of buttons read '&' as a mnemonic; the game's captions mean the character.
-QString literal(const std::string& text) {
-    return qs(text).replace('&', "&&");
 }
 
 const char* kind_name(ControlKind kind) {
@@ -46,7 +42,47 @@ const char* kind_name(ControlKind kind) {
 /// Labels at least this tall wrap their caption over several lines.
 constexpr int kWrapHeight = 30;
 
+/// The part of a drop-down list's width taken by its arrow and padding.
+constexpr int kComboArrow = 30;
+
+/// `text` as it fits `room` pixels of one line in `font`: whole, or cut with "…".
+QString fit_line(const QString& text, const QFontMetrics& font, int room) {
+    return font.horizontalAdvance(text) <= room ? text
+                                                : font.elidedText(text, Qt::ElideRight, room);
+}
+
+/// `text` as it fits `room`, wrapped at words: whole, or cut with "…" where the room ends.
+QString fit_block(const QString& text, const QFontMetrics& font, const QRect& room) {
+    const auto fits = [&](const QString& t) {
+        return font.boundingRect(room, Qt::TextWordWrap, t).height() <= room.height();
+    };
+    if (fits(text)) return text;
+    qsizetype lo = 0, hi = text.size();  // the longest cut that still fits
+    while (lo < hi) {
+        const qsizetype mid = (lo + hi + 1) / 2;
+        if (fits(text.left(mid).trimmed() + QChar(0x2026)))
+            lo = mid;
+        else
+            hi = mid - 1;
+    }
+    return text.left(lo).trimmed() + QChar(0x2026);
+}
+
+/// The width a button's caption has, inside its frame, padding and indicator.
+int caption_room(const QAbstractButton& button, bool option) {
+    QStyleOptionButton opt;
+    opt.initFrom(&button);
+    const auto element = option ? QStyle::SE_RadioButtonContents : QStyle::SE_PushButtonContents;
+    return button.style()->subElementRect(element, &opt, &button).width() - 4;
+}
+
 }  // namespace
+
+QString hover_text(const Control& c, const QString& cut_caption, const QString& reason) {
+    if (reason.isEmpty())
+        return cut_caption.isEmpty() ? QString::fromStdString(c.tooltip) : cut_caption;
+    return cut_caption.isEmpty() ? reason : cut_caption + "\n" + reason;
+}
 
 std::string control_key(const Control& c) {
     std::string key = c.name;
@@ -63,6 +99,8 @@ FormView::FormView(FormState& form, std::vector<Control*> controls, FormSkin ski
     setAttribute(Qt::WA_StyledBackground, !skin_.picture);
     for (Control* c : controls) bindings_.push_back(Binding{c, build(*c), {}, 0, false});
     setStyleSheet(skin_.style_sheet);
+    for (Binding& b : bindings_)
+        if (auto* list = qobject_cast<ListBox*>(b.widget)) list->fit_whole_rows();
     if (skin_.finish) skin_.finish(*this);
     for (const auto& [key, sequence] : skin_.keys) {
         auto* shortcut = new QShortcut(sequence, this);
@@ -138,7 +176,8 @@ QWidget* FormView::build(Control& c) {
     if (c.index >= 0) object_name += "_" + QString::number(c.index);
     w->setObjectName(object_name);
     w->setProperty("kind", kind_name(c.kind));
-    w->setGeometry(c.pos.left, c.pos.top, c.pos.width, c.pos.height);
+    // No control reaches past the window's edge, where its text would be lost.
+    w->setGeometry(QRect(c.pos.left, c.pos.top, c.pos.width, c.pos.height) & rect());
     return w;
 }
 
@@ -154,11 +193,19 @@ void FormView::refresh(Binding& b) {
     const bool has_name = named != skin_.names.end();
     const QString caption = qs(c.caption);
 
+    bool cut = false;  // the caption is shown cut short with "…"
     w->setEnabled(c.enabled);
     switch (c.kind) {
         case ControlKind::Label: {
             auto* label = static_cast<QLabel*>(w);
-            if (label->text() != caption) label->setText(caption);
+            label->ensurePolished();
+            const QRect room = label->contentsRect().adjusted(label->margin(), label->margin(),
+                                                              -label->margin(), -label->margin());
+            const QString shown = label->wordWrap()
+                                      ? fit_block(caption, label->fontMetrics(), room)
+                                      : fit_line(caption, label->fontMetrics(), room.width());
+            if (label->text() != shown) label->setText(shown);
+            cut = shown != caption;
             if (has_name) {
                 label->setAccessibleName(named->second);
                 label->setAccessibleDescription(caption);
@@ -170,7 +217,12 @@ void FormView::refresh(Binding& b) {
         case ControlKind::ClickLabel:
         case ControlKind::Button: {
             auto* button = static_cast<QAbstractButton*>(w);
-            button->setText(literal(c.caption));
+            button->ensurePolished();
+            const QString shown =
+                fit_line(caption, button->fontMetrics(), caption_room(*button, false));
+            // Captions of buttons read '&' as a mnemonic; the game's captions mean the character.
+            button->setText(QString(shown).replace('&', "&&"));
+            cut = shown != caption;
             button->setAccessibleName(has_name ? named->second : caption);
             break;
         }
@@ -179,7 +231,17 @@ void FormView::refresh(Binding& b) {
             break;
         case ControlKind::Option: {
             auto* option = static_cast<QRadioButton*>(w);
-            option->setText(literal(c.caption));
+            option->ensurePolished();
+            const QFontMetrics font = option->fontMetrics();
+            const int room = caption_room(*option, true);
+            QString shown = fit_line(caption, font, room);
+            if (shown != caption && c.index >= 0) {
+                // Options cut short keep their number, so that slots of one name still differ.
+                const QString number = QString::number(c.index + 1) + ". ";
+                shown = number + fit_line(caption, font, room - font.horizontalAdvance(number));
+            }
+            option->setText(QString(shown).replace('&', "&&"));
+            cut = shown != caption;
             option->setChecked(c.value);
             option->setAccessibleName(has_name ? named->second : caption.simplified());
             break;
@@ -189,7 +251,17 @@ void FormView::refresh(Binding& b) {
             const QSignalBlocker quiet(list);
             if (b.rows != c.rows) {
                 list->clear();
-                for (const std::string& row : c.rows) list->addItem(qs(row));
+                const int room = list->row_room(static_cast<int>(c.rows.size()));
+                for (const std::string& row : c.rows) {
+                    const QString whole = qs(row);
+                    auto* item = new QListWidgetItem(fit_line(whole, list->fontMetrics(), room));
+                    item->setSizeHint(QSize(room, list->row_height()));
+                    if (item->text() != whole) {
+                        item->setToolTip(whole);
+                        item->setData(Qt::AccessibleDescriptionRole, whole);
+                    }
+                    list->addItem(item);
+                }
                 b.rows = c.rows;
             }
             const int selected = c.selected < list->count() ? c.selected : -1;
@@ -203,7 +275,17 @@ void FormView::refresh(Binding& b) {
             const QSignalBlocker quiet(combo);
             if (b.rows != c.rows) {
                 combo->clear();
-                for (const std::string& row : c.rows) combo->addItem(qs(row));
+                const int room = combo->width() - kComboArrow;
+                for (const std::string& row : c.rows) {
+                    const QString whole = qs(row);
+                    const QString shown = fit_line(whole, combo->fontMetrics(), room);
+                    combo->addItem(shown);
+                    if (shown != whole) {
+                        combo->setItemData(combo->count() - 1, whole, Qt::ToolTipRole);
+                        combo->setItemData(combo->count() - 1, whole,
+                                           Qt::AccessibleDescriptionRole);
+                    }
+                }
                 b.rows = c.rows;
             }
             combo->setCurrentIndex(c.selected < combo->count() ? c.selected : -1);
@@ -212,13 +294,17 @@ void FormView::refresh(Binding& b) {
         }
     }
 
+    // A hover tells the whole caption where it is cut short, and a grey control says why;
+    // enabled again, it has its usual tip back.
+    const std::string reason =
+        c.kind != ControlKind::Label && !c.enabled && explain_ ? explain_(form_, c) : std::string();
+    const QString tip = hover_text(c, cut ? caption : QString(), qs(reason));
+    w->setToolTip(tip);
     if (c.kind != ControlKind::Label) {
-        // A grey control says why; enabled again, it has its usual tip back.
-        const std::string reason = !c.enabled && explain_ ? explain_(form_, c) : std::string();
-        const QString tip = qs(reason.empty() ? c.tooltip : reason);
-        w->setToolTip(tip);
         const bool named_by_tip = c.kind == ControlKind::HotSpot && reason.empty();
         w->setAccessibleDescription(named_by_tip ? QString() : tip);
+    } else if (!has_name) {
+        w->setAccessibleDescription(cut ? caption : QString());
     }
 
     const bool coloured = c.rule_colour || (skin_.model_colours && c.kind == ControlKind::Label);

@@ -19,6 +19,10 @@ namespace tourvane {
 
 class FormView;
 
+/// What a hover over a control tells: the whole caption where the widget shows it cut
+/// (`cut_caption`), followed by `reason` (why it is grey) if any; else the model's tool tip.
+QString hover_text(const Control& c, const QString& cut_caption, const QString& reason);
+
 /// "name" for a single control, "name(i)" for a member of a control array.
 std::string control_key(const Control& c);
 

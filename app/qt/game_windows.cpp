@@ -200,7 +200,14 @@ void GameWindows::place(FormView* view) {
     QRect frame(QPoint(0, 0), view->size());
     if (name == "Chart" && office->isVisible()) {
         // Beside the office, on the right if there is room, else on the left.
-        const QRect o = office->frameGeometry();
+        QRect o = office->frameGeometry();
+        const int both = o.width() + kGap + frame.width();
+        if (o.right() + kGap + frame.width() > screen.right() &&
+            o.left() - kGap - frame.width() < screen.left() && both <= screen.width()) {
+            // Room for both only side by side across the screen: the office steps aside.
+            o.moveLeft(screen.left() + (screen.width() - both) / 2);
+            office->move(o.topLeft());
+        }
         frame.moveTopLeft(QPoint(o.right() + kGap, o.top()));
         if (frame.right() > screen.right()) frame.moveTopRight(QPoint(o.left() - kGap, o.top()));
     } else if (anchor) {

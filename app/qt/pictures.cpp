@@ -282,9 +282,13 @@ void paint_office_room(QPainter& p, const QRect& all) {
 
 void paint_office(QPainter& p, const std::vector<DrawnButton>& buttons) {
     const QRect all = area(p);
+    // Drawn once per size and device pixel ratio, in device pixels, so that it stays as sharp
+    // as the controls over it on a scaled desktop.
     static QPixmap room;
-    if (room.size() != all.size()) {
-        room = QPixmap(all.size());
+    const qreal ratio = p.device()->devicePixelRatioF();
+    if (room.deviceIndependentSize().toSize() != all.size() || room.devicePixelRatio() != ratio) {
+        room = QPixmap((QSizeF(all.size()) * ratio).toSize());
+        room.setDevicePixelRatio(ratio);
         QPainter rp(&room);
         rp.setRenderHint(QPainter::Antialiasing);
         paint_office_room(rp, all);
@@ -476,7 +480,7 @@ void paint_gig(QPainter& p) {
     dusk.setColorAt(1, QColor(10, 8, 14, 150));
     p.fillRect(all, dusk);
     p.setRenderHint(QPainter::Antialiasing);
-    panel(p, QRectF(16.5, 10.5, 264, 306));   // venues
+    panel(p, QRectF(16.5, 10.5, 264, 314));   // venues, APPLY inside
     panel(p, QRectF(294.5, 10.5, 266, 240));  // set list
     // A ticket stub as decoration in the empty corner.
     const QRectF ticket(330.5, 266.5, 196, 44);

@@ -4,6 +4,8 @@
 #include <QEvent>
 #include <QInputDialog>
 #include <QMessageBox>
+#include <QPalette>
+#include <QPushButton>
 
 namespace tourvane {
 
@@ -11,6 +13,44 @@ namespace {
 
 QString qs(std::string_view text) {
     return QString::fromUtf8(text.data(), static_cast<qsizetype>(text.size()));
+}
+
+/// The boxes' own look, a sheet of memo paper with red ink buttons: set on the box itself so
+/// that no screen underneath lends it its colours.
+const char* const kBoxStyle = R"(
+* {
+    font-family: "Liberation Sans", Arial; font-size: 12px; font-weight: normal;
+    font-style: normal; color: #2b2620;
+}
+QDialog { background: #f6f0dc; }
+QLabel { background: transparent; border: none; padding: 0px; }
+QPushButton {
+    background: #8a2a22; color: #fff6e8; font-weight: bold; border: 1px solid #5e1c16;
+    border-radius: 3px; padding: 4px 16px; min-width: 52px;
+}
+QPushButton:hover { background: #a3352b; }
+QPushButton:pressed { background: #6e211b; }
+QPushButton:focus { border: 2px solid #2b2620; }
+QLineEdit {
+    background: #fffaf0; color: #2b2620; border: 1px solid #8a2a22; border-radius: 2px;
+    padding: 3px 5px; selection-background-color: #8a2a22; selection-color: #fff6e8;
+}
+)";
+
+void dress_box(QDialog& box) {
+    QPalette p = QApplication::palette();
+    const QColor paper("#f6f0dc"), ink("#2b2620"), red("#8a2a22"), cream("#fff6e8");
+    p.setColor(QPalette::Window, paper);
+    p.setColor(QPalette::WindowText, ink);
+    p.setColor(QPalette::Base, QColor("#fffaf0"));
+    p.setColor(QPalette::Text, ink);
+    p.setColor(QPalette::Button, red);
+    p.setColor(QPalette::ButtonText, cream);
+    p.setColor(QPalette::Highlight, red);
+    p.setColor(QPalette::HighlightedText, cream);
+    box.setPalette(p);
+    box.setAutoFillBackground(true);
+    box.setStyleSheet(kBoxStyle);
 }
 
 /// Announces a prompt once it is on the screen. (A message box announces itself as an alert.)
@@ -39,6 +79,8 @@ void announce(QWidget& w, const QString& name, const QString& description,
 }
 
 void QtPort::present(QDialog& box, const QString& text) {
+    box.ensurePolished();
+    for (auto* button : box.findChildren<QPushButton*>()) button->setIcon(QIcon());  // plain ink
     box.setAccessibleName(box.windowTitle());
     box.setAccessibleDescription(text);
     AnnounceOnShow on_show(box, text);
@@ -52,6 +94,7 @@ void QtPort::present(QDialog& box, const QString& text) {
 Answer QtPort::msgbox(std::string_view text, Buttons buttons, bool critical) {
     QMessageBox box(QApplication::activeWindow());
     box.setWindowTitle("Tourvane");
+    dress_box(box);
     box.setText(qs(text));
     box.setTextFormat(Qt::PlainText);
     box.setIcon(critical ? QMessageBox::Critical : QMessageBox::NoIcon);
@@ -70,9 +113,12 @@ Answer QtPort::msgbox(std::string_view text, Buttons buttons, bool critical) {
 std::string QtPort::inputbox(std::string_view prompt, std::string_view title) {
     QInputDialog box(QApplication::activeWindow());
     box.setInputMode(QInputDialog::TextInput);
+    dress_box(box);
     box.setWindowTitle(qs(title));
     box.setLabelText(qs(prompt));
     box.setTextValue(QString());
+    box.setOkButtonText("OK");  // builds the buttons now, so that they too are dressed
+    box.setCancelButtonText("Cancel");
     present(box, qs(prompt));
     if (box.result() != QDialog::Accepted) return {};
     return box.textValue().toStdString();

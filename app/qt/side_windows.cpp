@@ -45,9 +45,14 @@ void SideWindows::open(QWidget& window) {
             // The first time over the office, a little down and right of its corner.
             const QScreen* screen =
                 office_.screen() ? office_.screen() : QGuiApplication::primaryScreen();
-            QRect frame(office_.geometry().topLeft() + QPoint(40, 40), window.size());
+            // The frame the window manager puts round a window, as it does round the office.
+            const QSize border = office_.frameGeometry().size() - office_.size();
+            QRect frame(office_.geometry().topLeft() + QPoint(40, 40), window.size() + border);
             if (screen) {
+                // No taller or wider than the desktop, which a scaled one may well be.
                 const QRect area = screen->availableGeometry();
+                frame.setSize(frame.size().boundedTo(area.size()));
+                window.resize((frame.size() - border).expandedTo(window.minimumSize()));
                 frame.moveRight(std::min(frame.right(), area.right()));
                 frame.moveBottom(std::min(frame.bottom(), area.bottom()));
                 frame.moveLeft(std::max(frame.left(), area.left()));

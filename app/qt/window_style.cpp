@@ -56,6 +56,14 @@ QTreeView {
 QTreeView:focus { border-color: #c9973f; }
 QTreeView::item { padding: 2px 4px; }
 QTreeView::item:selected { background: #c9973f; color: #141018; }
+QScrollBar:vertical { background: #1b1720; width: 10px; margin: 0px; border: none; }
+QScrollBar:horizontal { background: #1b1720; height: 10px; margin: 0px; border: none; }
+QScrollBar::handle { background: #8a6a32; border-radius: 4px; margin: 1px; }
+QScrollBar::handle:vertical { min-height: 16px; }
+QScrollBar::handle:horizontal { min-width: 16px; }
+QScrollBar::handle:hover { background: #c9973f; }
+QScrollBar::add-line, QScrollBar::sub-line { width: 0px; height: 0px; }
+QScrollBar::add-page, QScrollBar::sub-page { background: transparent; }
 QHeaderView::section {
     background: #2f2934; color: #f0b650; font-weight: bold; border: none;
     border-right: 1px solid #1b1720; padding: 3px 6px;

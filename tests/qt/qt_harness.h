@@ -93,11 +93,13 @@ class Harness {
     }
 
     /// A game some weeks in: a full band, three songs, a member picked and promotion bought.
-    void game_under_way() {
-        new_game("The Wasps", "Sam");
+    void game_under_way(const QString& band = "The Wasps", const QString& player = "Sam",
+                        std::vector<std::string> songs = {"Paper Sting", "Neon Rain",
+                                                          "Velvet Static"}) {
+        new_game(band, player);
         for (int k = 0; k < 4; ++k) click("main", "hire");
-        const char* songs[] = {"", "Paper Sting", "Neon Rain", "Velvet Static"};
-        for (int i = 1; i <= 3; ++i) g.rec.songname[i] = songs[i], g.rec.songquality[i] = 40 * i;
+        for (int i = 1; i <= 3; ++i)
+            g.rec.songname[i] = songs[i - 1], g.rec.songquality[i] = 40 * i;
         g.rec.songcount = 3;
         updatesonglist(g);
         windows->refresh();

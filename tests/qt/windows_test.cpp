@@ -1,6 +1,8 @@
 // The game played through its real windows: start-up, NEW GAME and its refusals, the memo
 // queue over a disabled office, the drawn buttons, the keyboard, a gig, the chart and quitting.
 
+#include <QDir>
+#include <QLineEdit>
 #include <QRadioButton>
 #include <QSignalSpy>
 #include <QtTest>
@@ -19,6 +21,37 @@ bool lamp_lit(Harness& h, const tourvane::Control& spot) {
     const QColor c = h.view("main")->grab().toImage().pixelColor(
         spot.pos.left + 9, spot.pos.top + spot.pos.height / 2);
     return c.green() > 150 && c.green() > c.red() + 40;
+}
+
+double luminance(QRgb c) {
+    const auto lin = [](int v) {
+        const double s = v / 255.0;
+        return s <= 0.03928 ? s / 12.92 : std::pow((s + 0.055) / 1.055, 2.4);
+    };
+    return 0.2126 * lin(qRed(c)) + 0.7152 * lin(qGreen(c)) + 0.0722 * lin(qBlue(c));
+}
+
+/// The contrast of a widget's text against its ground, read from the pixels of the box drawn
+/// on screen: the ground is the commonest colour, the ink the one furthest from it among
+/// the colours that cover a fair share of the rest (so that a few stray pixels do not count).
+double contrast(QDialog& box, QWidget* w) {
+    const QRect r = QRect(w->mapTo(&box, QPoint()), w->size()).adjusted(3, 3, -3, -3);
+    const QImage image = box.grab(r).toImage();
+    QHash<QRgb, int> count;
+    for (int y = 0; y < image.height(); ++y)
+        for (int x = 0; x < image.width(); ++x) ++count[image.pixel(x, y)];
+    QRgb ground = 0;
+    for (auto it = count.cbegin(); it != count.cend(); ++it)
+        if (it.value() > count.value(ground)) ground = it.key();
+    const int rest = static_cast<int>(image.width() * image.height()) - count.value(ground);
+    const double g = luminance(ground);
+    double best = 1;
+    for (auto it = count.cbegin(); it != count.cend(); ++it) {
+        const double ink = luminance(it.key());
+        if (it.value() * 50 >= rest)
+            best = std::max(best, (std::max(g, ink) + 0.05) / (std::min(g, ink) + 0.05));
+    }
+    return best;
 }
 
 QString week_later() {
@@ -41,7 +74,70 @@ class WindowsTest : public QObject {
         QVERIFY(sizes.contains(QSize(16, 16)) && sizes.contains(QSize(256, 256)));
         h.g.forms.each_form([&](tourvane::FormState& form) {
             QCOMPARE(h.view(form.name)->size(), QSize(form.width, form.height));
+            QCOMPARE(h.view(form.name)->minimumSize(), h.view(form.name)->maximumSize());
         });
+        tourvane::SideWindows& side = h.windows->side();
+        for (QWidget* w :
+             std::initializer_list<QWidget*>{&side.diary(), &side.graph(), &side.keys()})
+            QVERIFY(w->minimumSize() != w->maximumSize());
+    }
+
+    void everyKindOfBoxIsReadableOverEveryScreen() {
+        Harness h;
+        h.new_game();
+        tourvane::SideWindows& side = h.windows->side();
+        std::vector<QWidget*> screens{&side.diary(), &side.graph(), &side.keys()};
+        h.g.forms.each_form(
+            [&](tourvane::FormState& form) { screens.push_back(h.view(form.name)); });
+        QWidget* under = nullptr;
+        int seen = 0;
+        h.port.set_presenter([&](QDialog& box) {
+            ++seen;
+            QCOMPARE(box.parentWidget(), under);  // the screen lends the box what it can
+            if (auto* input = qobject_cast<QInputDialog*>(&box)) input->setTextValue("The Wasps");
+            box.show();
+            QVERIFY(QTest::qWaitForWindowExposed(&box));
+            QDir().mkpath(TOURVANE_SCREENSHOT_DIR);
+            box.grab().save(QString("%1/box_%2_%3@%4x.png")
+                                .arg(TOURVANE_SCREENSHOT_DIR, under->objectName())
+                                .arg(seen)
+                                .arg(box.devicePixelRatio()));
+            const auto parts = box.findChildren<QWidget*>();
+            int read = 0;
+            for (QWidget* w : parts) {
+                auto* label = qobject_cast<QLabel*>(w);
+                auto* button = qobject_cast<QAbstractButton*>(w);
+                auto* line = qobject_cast<QLineEdit*>(w);
+                const QString text = label    ? label->text()
+                                     : button ? button->text()
+                                     : line   ? line->text()
+                                              : "";
+                if (text.isEmpty() || !w->isVisible()) continue;
+                ++read;
+                QVERIFY2(contrast(box, w) >= 4.5, qPrintable(under->windowTitle() + ": " + text));
+            }
+            QVERIFY(read >= 2);
+            if (auto* message = qobject_cast<QMessageBox*>(&box))
+                QCOMPARE(message->icon() == QMessageBox::Critical, !message->iconPixmap().isNull());
+            box.reject();
+        });
+        using B = tourvane::Buttons;
+        const std::function<void()> kinds[] = {
+            [&] { h.port.msgbox("Please select a band member", B::Ok, false); },
+            [&] { h.port.msgbox("Invalid Band Name.", B::Ok, true); },
+            [&] { h.port.msgbox("Are you sure you want to quit?", B::YesNo, false); },
+            [&] { h.port.inputbox("Please enter the name of the Band:", "NEW BAND"); }};
+        for (QWidget* screen : screens) {
+            screen->show();
+            under = screen;
+            for (const auto& raise_box : kinds) {
+                screen->activateWindow();
+                QVERIFY(QTest::qWaitForWindowActive(screen));
+                raise_box();
+            }
+            screen->hide();
+        }
+        QCOMPARE(seen, 4 * static_cast<int>(screens.size()));
     }
 
     void newGameThroughTheTitleScreenAndItsRefusals() {
