@@ -4,6 +4,7 @@
 #include <QPainter>
 
 #include "app/qt/pictures.h"
+#include "app/qt/window_style.h"
 
 namespace tourvane {
 
@@ -57,18 +58,10 @@ QComboBox:disabled { color: #6d665c; border-color: #35302b; }
 QComboBox QAbstractItemView {
     background: #0d0b10; selection-background-color: #c9973f; selection-color: #141018;
 }
-QScrollBar:vertical { background: #1b1720; width: 10px; margin: 0px; border: none; }
-QScrollBar:horizontal { background: #1b1720; height: 10px; margin: 0px; border: none; }
-QScrollBar::handle { background: #8a6a32; border-radius: 4px; margin: 1px; }
-QScrollBar::handle:vertical { min-height: 16px; }
-QScrollBar::handle:horizontal { min-width: 16px; }
-QScrollBar::handle:hover { background: #c9973f; }
-QScrollBar::add-line, QScrollBar::sub-line { width: 0px; height: 0px; }
-QScrollBar::add-page, QScrollBar::sub-page { background: transparent; }
 )";
 
 QString dark(const char* extra) {
-    return QString(kDarkStyle) + extra;
+    return QString(kDarkStyle) + kScrollBarStyle + extra;
 }
 
 }  // namespace

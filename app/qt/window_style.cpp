@@ -6,6 +6,17 @@
 
 namespace tourvane {
 
+const char* const kScrollBarStyle = R"(
+QScrollBar:vertical { background: #1b1720; width: 10px; margin: 0px; border: none; }
+QScrollBar:horizontal { background: #1b1720; height: 10px; margin: 0px; border: none; }
+QScrollBar::handle { background: #8a6a32; border-radius: 4px; margin: 1px; }
+QScrollBar::handle:vertical { min-height: 16px; }
+QScrollBar::handle:horizontal { min-width: 16px; }
+QScrollBar::handle:hover { background: #c9973f; }
+QScrollBar::add-line, QScrollBar::sub-line { width: 0px; height: 0px; }
+QScrollBar::add-page, QScrollBar::sub-page { background: transparent; }
+)";
+
 void dress_side_window(QWidget& window) {
     QPalette p = window.palette();
     const QColor ink("#ece6da"), paper("#1b1720"), field("#0d0b10"), gold("#c9973f");
@@ -26,7 +37,7 @@ void dress_side_window(QWidget& window) {
     p.setColor(QPalette::Disabled, QPalette::ButtonText, QColor("#6d665c"));
     window.setPalette(p);
     window.setAutoFillBackground(true);
-    window.setStyleSheet(R"(
+    window.setStyleSheet(QString(R"(
 * { font-family: "Liberation Sans", Arial; font-size: 12px; }
 QLabel { color: #ece6da; background: transparent; }
 QLabel[role="heading"] { color: #f0b650; font-size: 16px; font-weight: bold; }
@@ -56,19 +67,11 @@ QTreeView {
 QTreeView:focus { border-color: #c9973f; }
 QTreeView::item { padding: 2px 4px; }
 QTreeView::item:selected { background: #c9973f; color: #141018; }
-QScrollBar:vertical { background: #1b1720; width: 10px; margin: 0px; border: none; }
-QScrollBar:horizontal { background: #1b1720; height: 10px; margin: 0px; border: none; }
-QScrollBar::handle { background: #8a6a32; border-radius: 4px; margin: 1px; }
-QScrollBar::handle:vertical { min-height: 16px; }
-QScrollBar::handle:horizontal { min-width: 16px; }
-QScrollBar::handle:hover { background: #c9973f; }
-QScrollBar::add-line, QScrollBar::sub-line { width: 0px; height: 0px; }
-QScrollBar::add-page, QScrollBar::sub-page { background: transparent; }
 QHeaderView::section {
     background: #2f2934; color: #f0b650; font-weight: bold; border: none;
     border-right: 1px solid #1b1720; padding: 3px 6px;
 }
-)");
+)") + kScrollBarStyle);
     auto* escape = new QShortcut(QKeySequence(Qt::Key_Escape), &window);
     QObject::connect(escape, &QShortcut::activated, &window, &QWidget::close);
 }

@@ -6,6 +6,9 @@ class QWidget;
 
 namespace tourvane {
 
+/// The scroll bars of the game's dark windows and lists.
+extern const char* const kScrollBarStyle;
+
 /// Dresses a top-level window in the office's colours and lets Escape close it.
 void dress_side_window(QWidget& window);
 
