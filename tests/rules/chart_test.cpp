@@ -33,22 +33,22 @@ class ChartStep : public testing::Office {
 };
 
 TEST_F(ChartStep, EachRowDrawsDemandFameAndLifeInTurn) {
-    row(21, 40, 7, 300, 55);  // both rises; the second branch's draw of 0 is a rise of 1
+    row(21, 40, 7, 300, 55);  // demand rises, fame falls by its draw less one
     row(22, 3, 2, 300, 9);    // both falls, floored at 0
     row(23, 28, 5, 100);      // 29/100 of 100 in double precision is just below 29
     row(24, -5, 5, 300);      // a demand at or below 0 is lifted to 1 first
     tick();
-    picks({{1, 2}, {4, 5}, {2, 2}, {1, 10}, {50, 100}});
+    picks({{1, 2}, {4, 5}, {2, 2}, {8, 10}, {50, 100}});
     picks({{2, 2}, {5, 5}, {2, 2}, {10, 10}, {1, 100}});
     tick();
-    picks({{2, 2}, {1, 5}, {1, 2}, {1, 3}, {1, 100}});
+    picks({{2, 2}, {1, 5}, {1, 2}, {3, 3}, {1, 100}});
     tick(46);
     chart_step(g);
     EXPECT_EQ(g.rnd.queued_left(), 0u);
-    EXPECT_EQ(at(21), "Rival 21 / Hit 21: 44 8 50 250 132 55");
+    EXPECT_EQ(at(21), "Rival 21 / Hit 21: 44 1 50 250 132 55");
     EXPECT_EQ(at(22), "Rival 22 / Hit 22: 0 0 50 299 0 9");
     EXPECT_EQ(at(23), "Rival 23 / Hit 23: 29 6 50 99 28 0");
-    EXPECT_EQ(at(24), "Rival 24 / Hit 24: 2 6 50 299 6 0");
+    EXPECT_EQ(at(24), "Rival 24 / Hit 24: 2 8 50 299 6 0");
     // Next week the row at demand 0 is lifted to 1 before it moves.
     tick(2);
     picks({{2, 2}, {1, 5}, {1, 2}, {1, 3}, {1, 100}});

@@ -54,11 +54,11 @@ TEST_F(Songs, RestedBandStartsAtOnceTiredBandIsAskedAndYesCostsHappiness) {
         "The band wants a rest before starting on a new song. Make them record anyway?";
     const Shown tired = testing::yesno(ask, false);
     r.tiredness = 1, r.songweeks = 10;
-    set_happy(0, 10, 5, 1);
+    set_happy(1, 10, 5, 0);
     pick(2, 4);
     no();
     EXPECT_EQ(record(), Lines{tired});
-    EXPECT_EQ(str(happiness(), r.songweeks), "0 10 5 1 10");
+    EXPECT_EQ(str(happiness(), r.songweeks), "1 10 5 0 10");
     yes();
     EXPECT_EQ(record(), (Lines{testing::yesno(ask, true), kStarted}));
     EXPECT_EQ(str(happiness(), r.songweeks, r.tiredness, r.cash), "0 9 4 0 5 1 3000");
