@@ -149,7 +149,7 @@ std::optional<CareerHistory> parse_history(std::span<const std::uint8_t> bytes,
 
 void write_history(const Game& g, int slot, std::span<const std::uint8_t> save) {
     std::string reason;
-    if (!write_slot_file(history_file(slot), history_bytes(g, save_mark(save)), reason)) {
+    if (!replace_file(history_file(slot), history_bytes(g, save_mark(save)), reason)) {
         std::error_code ec;
         std::filesystem::remove(history_file(slot), ec);
     }

@@ -109,13 +109,8 @@ std::optional<Module1> parse_save(std::span<const std::uint8_t> bytes, const Mod
     return loaded;
 }
 
-bool write_slot_file(const std::filesystem::path& path, std::span<const std::uint8_t> bytes,
-                     std::string& reason) {
-    return replace_file(path, bytes, reason);
-}
-
 bool write_save(const Module1& r, const std::filesystem::path& path, std::string& reason) {
-    return write_slot_file(path, save_bytes(r), reason);
+    return replace_file(path, save_bytes(r), reason);
 }
 
 std::optional<Module1> read_save(const std::filesystem::path& path, const Module1& running) {

@@ -27,12 +27,6 @@ std::vector<std::uint8_t> save_bytes(const Module1& r);
 /// that can't be trusted.
 std::optional<Module1> parse_save(std::span<const std::uint8_t> bytes, const Module1& running);
 
-/// Writes a file of a save slot (the save, or the history beside it) in place of the one at
-/// `path`, only once the new one is whole. On failure the old file is kept and `reason` says
-/// why. Every file a slot keeps is written through here.
-bool write_slot_file(const std::filesystem::path& path, std::span<const std::uint8_t> bytes,
-                     std::string& reason);
-
 /// Writes the save of `r` to `path`, replacing any save there only once the new one is
 /// whole. On failure the old file is kept and `reason` says why.
 bool write_save(const Module1& r, const std::filesystem::path& path, std::string& reason);
