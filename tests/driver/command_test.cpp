@@ -79,12 +79,5 @@ TEST(ParseLine, WordsStringsIndexesDrawsAndAnswers) {
     EXPECT_EQ(ok(many).draws.size(), 100000u);
 }
 
-TEST(ParseLine, OnlyQueueingVerbsRunBeforeTheStartUp) {
-    for (const char* v : {"rnd", "answer", "input", "automemo"})
-        EXPECT_TRUE(runs_before_startup(v));
-    for (const char* v : {"rndleft", "get", "set", "click", "dump", "frobnicate", ""})
-        EXPECT_FALSE(runs_before_startup(v)) << v;
-}
-
 }  // namespace
 }  // namespace tourvane::driver

@@ -75,23 +75,6 @@ TEST(Session, SetAndGetKeepTheWrittenFormsAndControlsPrintTheKeysOfTheirKind) {
               "control Chart.track(0) enabled=1 visible=1 caption=\"1\" color=FFFF00\n");
 }
 
-TEST(Session, AMismatchedAnswerIsAnErrorAndTheEndStopsTheScript) {
-    Script r;
-    EXPECT_EQ(r.lines("answer yes\nclick Form1.New"),
-              "inputbox \"NEW BAND\" \"Please enter the name of the Band:\" -> \"\"\n"
-              "error \"answer yes does not fit an ok box\"\n"
-              "msgbox ok critical \"Invalid Band Name.\" -> ok\n");
-    EXPECT_TRUE(r.s.had_error());
-    r.lines("input \"B\"\ninput \"P\"\nclick Form1.New\nanswer yes");
-    EXPECT_EQ(r.lines("click main.exitbtn\nget cash"),
-              "msgbox yesno \"Are you sure you want to quit?\" -> yes\nend\n");
-    EXPECT_TRUE(r.s.ended());
-    std::ostringstream out;
-    std::istringstream good("get cash\n"), bad(std::string("get cash\nget\0cash\n\xFF\xFE\n", 22));
-    EXPECT_EQ(run_script(good, out, 1), 0);
-    EXPECT_EQ(run_script(bad, out, 1), 1);
-}
-
 TEST(Session, EveryControlOfEveryFormAnswersTheControlCommand) {
     Script r;
     r.lines("rndleft");

@@ -143,52 +143,29 @@ TEST_F(Label, VerdictTable) {
         label + "liked the song a lot, they would like to hear some more of your tracks.";
     const std::string develop =
         label + "loved the track, but think the band as a whole still needs to develop.";
-    const struct {
-        int quality, popularity;
-        Shown line;  // no text: no memo
-    } rows[] = {{8, 5000, kRejected},
-                {19, 0, kRejected},
-                {20, 5000, {}},
-                {21, 0, memo("Mona", ok)},
-                {24, 0, memo("Mona", ok)},
-                {25, 0, {}},
-                {26, 0, memo("Mona", liked)},
-                {29, 0, memo("Mona", liked)},
-                {30, 0, {}},
-                {31, 0, memo("Mona", lot)},
-                {39, 5000, memo("Mona", lot)},
-                {40, 5000, {}},
-                {41, 999, memo("Mona", develop)},
-                {41, 1000, kSigned},
-                {300, 32000, kSigned}};
-    for (const auto& row : rows) {
-        r.songquality[2] = static_cast<Integer>(row.quality);
-        r.popularity = static_cast<Integer>(row.popularity), r.signed_ = 0, g.main.demosent = -1;
+    const Shown said[] = {{},
+                          kRejected,
+                          memo("Mona", ok),
+                          memo("Mona", liked),
+                          memo("Mona", lot),
+                          memo("Mona", develop),
+                          kSigned};
+    const int rows[][3] = {
+        {8, 5000, 1}, {19, 0, 1},    {20, 5000, 0},  {21, 0, 2}, {24, 0, 2},    {25, 0, 0},
+        {26, 0, 3},   {29, 0, 3},    {30, 0, 0},     {31, 0, 4}, {39, 5000, 4}, {40, 5000, 0},
+        {41, 999, 5}, {41, 1000, 6}, {300, 32000, 6}};  // quality, popularity, what is said
+    for (const auto& [quality, popularity, k] : rows) {
+        r.songquality[2] = static_cast<Integer>(quality);
+        r.popularity = static_cast<Integer>(popularity), r.signed_ = 0, g.main.demosent = -1;
         g.main.selectedsong = 2;
         const bool goes_on = demo_verdict(g);
-        EXPECT_EQ(memos(), row.line.text.empty() ? Lines{} : Lines{row.line}) << row.quality;
-        EXPECT_EQ(str(goes_on, g.main.demosent, r.signed_),
-                  str(row.line != kRejected, 0, row.line == kSigned ? -1 : 0))
-            << row.quality;
+        EXPECT_EQ(memos(), k ? Lines{said[k]} : Lines{}) << quality;
+        EXPECT_EQ(str(goes_on, g.main.demosent, r.signed_), str(k != 1, 0, k == 6 ? -1 : 0))
+            << quality;
         ok_memos();
     }
     EXPECT_TRUE(demo_verdict(g));  // no demo out: nothing
     EXPECT_TRUE(take().empty());
-}
-
-// The song judged is the one picked when the week comes; the popularity is the turn's own,
-// after its promotion and before its decay.
-TEST_F(Label, VerdictJudgesTheSongPickedAtTheTurn) {
-    click(g, "main", "songlist", 0);
-    send();
-    click(g, "main", "songlist", 1);
-    r.popularity = 997;
-    click(g, "main", "promote", 1);  // Small: +3
-    week_start();
-    week_end(true);
-    command6(g);
-    EXPECT_EQ(memos(), Lines{kSigned});
-    EXPECT_EQ(str(g.rnd.queued_left(), r.popularity), "0 999");
 }
 
 TEST_F(Label, ContractHoldsAt900AndEndsAt899BeforeThePromotion) {
@@ -208,25 +185,6 @@ TEST_F(Label, ContractHoldsAt900AndEndsAt899BeforeThePromotion) {
                                  "Superstar records have terminated our contract!"));
     EXPECT_EQ(str(g.rnd.queued_left(), r.signed_, r.singlehype[1], r.singledemand[1], r.popularity),
               "0 0 0 500 901");
-}
-
-TEST_F(Label, RejectedDemoEndsTheWeekAfterTheWages) {
-    // A signed band with a single on sale, having played a gig this week.
-    r.signed_ = -1, r.popularity = 1200, r.released[2] = -1, r.singlesales[2] = 33;
-    g.forms.main.command4.enabled = false;
-    click(g, "main", "songlist", 0);
-    send();
-    week_start();
-    command6(g);
-    EXPECT_EQ(take(),
-              (Lines{testing::yesno("Do you want the band to practise?", false), kRejected}));
-    const OfficeForm& f = g.forms.main;
-    EXPECT_EQ(str(g.rnd.queued_left(), r.gamedate, r.cash, r.popularity, r.singlesales[2],
-                  f.txtdate.caption, f.txtcash.caption, f.command4.enabled, f.secret.enabled),
-              "0 37142 2996 1200 33 01/09/2001 £ 3000 0 0");  // no update
-    for (int v = 1; v <= 5; ++v) EXPECT_EQ(r.venueopen[v], -1);
-    ok_memos();  // the demo can go out again at once
-    EXPECT_EQ(send(), Lines{kSent});
 }
 
 Shown offer(bool yes) {
