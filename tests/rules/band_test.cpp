@@ -124,13 +124,6 @@ TEST_F(Applicants, MemoAtExactlyFiveComesAfterTheNextApplicantIsDrawn) {
     press("hire");  // the one on show can still be hired
     EXPECT_EQ(str(r.membername[2], panel()), "Bryan Jones No Applicants");
     EXPECT_TRUE(memos().empty());
-    full_band();  // the hire that fills the band at five: the panel closes, the memo comes
-    r.membername[4] = "None", g.main.applicantsseen = 4;
-    applicant();
-    update(g);
-    press("hire");
-    EXPECT_EQ(str(r.membername[4], f.hire.enabled, f.dismiss.enabled), "Aaron Johnson 0 0");
-    EXPECT_EQ(memos(), no_more);
 }
 
 class Roster : public testing::Office {
@@ -244,19 +237,6 @@ TEST_F(Roster, WalkOutCarriesALaterMemberAndLeavesTheEmptySlotPicked) {
     const std::string shock =
         " has decided to leave the band! The rest of the band is in a state of shock.";
     EXPECT_EQ(memos(), (Lines{memo("Mona", "Ann Vox" + shock), memo("Mona", "Cy Low" + shock)}));
-    ok_memos();
-    dblclick(g, "main", "members");  // the empty slot is still the one asked about
-    EXPECT_EQ(memos(), (Lines{memo("Dave",
-                                   "None is unhappy. The other members of the band get on "
-                                   "with her very well. None is ill at the moment. She "
-                                   "should be fit again in 1 weeks.")}));
-    ok_memos();
-    // SACK THIS MEMBER stayed armed: a Yes removes nobody, only the happiness step runs again.
-    yes();
-    applicant();
-    click(g, "main", "Command2");
-    EXPECT_EQ(take().front(), yesno("Are you sure you want to sack None?", true));
-    EXPECT_EQ(str(r.popularity, happiness()), "39 0 0 0 0");
 }
 
 class Training : public testing::Office {
@@ -397,14 +377,6 @@ TEST_F(Interviews, CableTakesCharismaThenLooksPerMemberAndNoBonus) {
     r.memberattitude[1] = 6;
     for (int s = 0; s < 4; ++s) picks({{10, 10}, {2, 2}});
     expect(2, kCable[2], 15);  // 16 + 3 * 15 = 61
-}
-
-TEST_F(Interviews, EmptySlotsStillScoreAndTakeTheirDraws) {
-    draws({0.5, 0.5, 0.5, 0.5});
-    pick(1, 20);
-    expect(1, kRadio[1], 12);  // 4 * 11 + 5 = 49
-    draws({0.5, 0.5, 0.5, 0.5, 0.5, 0.5, 0.5, 0.5});
-    expect(2, kCable[1], 12);  // 4 * 12 = 48
 }
 
 }  // namespace
