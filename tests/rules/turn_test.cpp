@@ -1,5 +1,4 @@
-// The office and Next Week: the start-up, the office's labels, and the turn's order, early
-// ends, promotion prices and wages.
+// The office's labels and Next Week: the turn's order, early ends, promotion prices and wages.
 #include "rules/week/turn.h"
 #include "test_game.h"
 
