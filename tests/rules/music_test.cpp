@@ -150,10 +150,12 @@ TEST_F(Label, VerdictTable) {
                           memo("Mona", lot),
                           memo("Mona", develop),
                           kSigned};
-    const int rows[][3] = {
-        {8, 5000, 1}, {19, 0, 1},    {20, 5000, 0},  {21, 0, 2}, {24, 0, 2},    {25, 0, 0},
-        {26, 0, 3},   {29, 0, 3},    {30, 0, 0},     {31, 0, 4}, {39, 5000, 4}, {40, 5000, 0},
-        {41, 999, 5}, {41, 1000, 6}, {300, 32000, 6}};  // quality, popularity, what is said
+    const int rows[][3] = {{8, 5000, 1},   {19, 0, 1},    {20, 5000, 0},
+                           {21, 0, 2},     {24, 0, 2},    {25, 0, 0},
+                           {26, 0, 3},     {29, 0, 3},    {30, 0, 0},
+                           {31, 0, 4},     {39, 5000, 4}, {40, 5000, 0},
+                           {40, 999, 0},   {41, 999, 5},  {41, 1000, 6},
+                           {300, 32000, 6}};  // quality, popularity, what is said
     for (const auto& [quality, popularity, k] : rows) {
         r.songquality[2] = static_cast<Integer>(quality);
         r.popularity = static_cast<Integer>(popularity), r.signed_ = 0, g.main.demosent = -1;
