@@ -56,25 +56,6 @@ TEST(Session, RejectedCommandsChangeNothing) {
     EXPECT_TRUE(r.s.had_error());
 }
 
-TEST(Session, SetAndGetKeepTheWrittenFormsAndControlsPrintTheKeysOfTheirKind) {
-    Script r;
-    EXPECT_EQ(r.lines("set gamedate 37135.5\nget gamedate\nset membername 4 "
-                      "\"\\u00a3 \\\"x\\\"\\ud83c\\udfb8\"\nget membername 4\n"
-                      "set cash -2147483648\nget cash\nget titlefirst 20"),
-              "gamedate = 37135.5\nmembername(4) = \"\xC2\xA3 \\\"x\\\"\xF0\x9F\x8E\xB8\"\n"
-              "cash = -2147483648\ntitlefirst(20) = \"Shocked\"\n");
-    EXPECT_FALSE(r.s.had_error());
-    // set touches no control: the cash label keeps the last figure update wrote.
-    EXPECT_EQ(r.lines("control main.txtcash\ncontrol main.promote 2\ncontrol main.secret\n"
-                      "control main.songlist\ncontrol Chart.track 0"),
-              "control main.txtcash enabled=1 visible=1 caption=\"\xC2\xA3 3000\"\n"
-              "control main.promote(2) enabled=1 visible=1 caption=\"Medium   \xC2\xA3"
-              "250\" value=0\n"
-              "control main.secret enabled=0 visible=1 tooltip=\"Music Chart\"\n"
-              "control main.songlist enabled=1 visible=1 rows=[] selected=-1\n"
-              "control Chart.track(0) enabled=1 visible=1 caption=\"1\" color=FFFF00\n");
-}
-
 TEST(Session, EveryControlOfEveryFormAnswersTheControlCommand) {
     Script r;
     r.lines("rndleft");

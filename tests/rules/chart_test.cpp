@@ -159,14 +159,6 @@ TEST_F(ChartScreen, TiesGoToTheEarlierRowWhoseSalesRise) {
     }
 }
 
-TEST_F(ChartScreen, PlayersBandNameInYellowAndEmptyRows) {
-    r.chartband[70] = "The Wasps";  // a rival row with the player's name
-    r.chartband[69] = "the wasps", r.chartband[68] = r.charttitle[68] = "";
-    open();
-    EXPECT_EQ(top(3), "The Wasps with Title 70 the wasps with Title 69  with ");
-    EXPECT_EQ(str(line(1).color == colour::kYellow, line(2).color == colour::kBrightWhite), "1 1");
-}
-
 /// A bands file whose entry i is "Band i", fame i, "Song i", quality 30 + i, demand 100 + i.
 Bytes numbered_bands() {
     RecordWriter w;
@@ -198,22 +190,6 @@ bool rows_are_builtin(const Module1& r) {
         if (r.chartband[row] != e.band || r.chartdemand[row] != e.demand) return false;
     }
     return true;
-}
-
-TEST(BandsFile, OurRivalsBehaveLikeTheChartsOwnRecordsAndShipBesideTheProgram) {
-    const auto table = parse_bands(builtin_bands());
-    ASSERT_TRUE(table);
-    for (const RivalEntry& e : *table) {
-        EXPECT_FALSE(e.band.empty() || e.title.empty());
-        EXPECT_TRUE(e.fame >= 0 && e.fame <= 100 && e.quality >= 30 && e.quality <= 74 &&
-                    e.demand >= 50 && e.demand <= 149)
-            << e.band;
-    }
-    EXPECT_EQ((*table)[42].band, "Señor Cassette");  // Windows-1252 letters read back
-    const auto exe = std::filesystem::read_symlink("/proc/self/exe");
-    const auto builtin = builtin_bands();
-    EXPECT_EQ(read_all(exe.parent_path() / "bands.dat"), Bytes(builtin.begin(), builtin.end()));
-    EXPECT_EQ(builtin.size(), 32640u);
 }
 
 TEST(LoadBands, FillsRowsPoolAndLifeFromTheWorkingDirectory) {

@@ -240,18 +240,6 @@ TEST_F(Singles, ReleaseTakes1500AndSetsDemand) {
     EXPECT_EQ(str(r.released[1], g.forms.main.txtcash.caption), "-1 £ 0");
 }
 
-TEST_F(Singles, SalesReportAndWhatNeedsTheContract) {
-    r.released[2] = -1, r.singlesales[2] = 37;
-    EXPECT_EQ(dbl(1), Lines{memo("Mona", "There were 37 sales of this song last week.")});
-    r.signed_ = 0;  // without a contract nothing at all, released or not
-    EXPECT_TRUE(dbl(1).empty());
-    EXPECT_TRUE(dbl(0).empty());
-    r.signed_ = -1;  // the empty part of the list picks no song and does nothing
-    yes();
-    EXPECT_TRUE(dbl(-1).empty());
-    EXPECT_EQ(str(r.released[0], r.released[1], port.answers_left()), "0 0 1");
-}
-
 TEST_F(Singles, RoyaltiesAreTwoFifthsOfTheSalesWithABoxForEverySingle) {
     const int hype[] = {0, 0, 0, 100, 0}, demand[] = {0, 0, 0, 5, 0};
     for (int k = 1; k <= 4; ++k) {
