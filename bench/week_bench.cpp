@@ -27,7 +27,7 @@ struct Band {
         load_main(g, 7);
         Module1& r = g.rec;
         r.bandname = "The Wasps";
-        r.playername = "Sam";
+        r.playername = "Samantha Hartley";  // long enough for the office heading to need the heap
         const char* names[] = {"", "Ann Vox", "Bob Axe", "Cy Low", "Di Kit"};
         for (int s = 1; s <= 4; ++s) {
             r.membername[s] = names[s];
