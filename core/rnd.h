@@ -40,8 +40,7 @@ class Rnd {
     }
 
   private:
-    // Written out here, with nothing it calls: a draw that calls nothing lets the compiler
-    // keep the generator in registers from one draw to the next.
+    // Written out here, so that a draw calls no function of its own.
     double take_queued() {
         const double v = queued_[next_queued_++];
         if (next_queued_ == queued_.size()) clear_queue();
