@@ -59,37 +59,52 @@ class RatioReporter : public benchmark::ConsoleReporter {
     void ReportRuns(const std::vector<Run>& runs) override {
         ConsoleReporter::ReportRuns(runs);
         for (const Run& run : runs) {
-            if (run.error_occurred || run.run_type != Run::RT_Iteration) continue;
+            if (run.error_occurred) continue;
+            // Repetitions shown only as aggregates still give their median.
+            const bool median_of_repetitions =
+                run.run_type == Run::RT_Aggregate && run.aggregate_name == "median";
+            if (run.run_type != Run::RT_Iteration && !median_of_repetitions) continue;
             Figures& f = figures_[run.run_name.function_name];
-            f.ns.push_back(run.GetAdjustedCPUTime() * to_ns(run.time_unit));
+            const double ns = run.GetAdjustedCPUTime() * to_ns(run.time_unit);
+            (median_of_repetitions ? f.median_ns : f.ns).push_back(ns);
             const auto draws = run.counters.find(kDrawsPerWeek);
             if (draws != run.counters.end()) f.draws = draws->second.value;
         }
     }
 
-    /// One line per week benchmark: its time against its draws' cost, all from this run.
+    /// One line per week benchmark: its time against its draws' cost, all from this run; and
+    /// the chart's ranking against a full week.
     void print_ratios() const {
         const auto draw = figures_.find("BM_Draw");
         if (draw == figures_.end()) {
             std::printf("\nNo ratios: BM_Draw did not run (a filter must let it through).\n");
             return;
         }
-        const double draw_ns = median(draw->second.ns);
+        const double draw_ns = draw->second.time();
         std::printf(
             "\nWeeks against their draws (CPU time, medians of this run; one draw %.2f ns):\n",
             draw_ns);
         for (const auto& [name, f] : figures_) {
             if (f.draws <= 0) continue;
-            const double week_ns = median(f.ns);
+            const double week_ns = f.time();
             std::printf("%-16s %8.0f ns a week, %6.1f draws: %5.2f times their cost (limit 4)\n",
                         name.c_str(), week_ns, f.draws, week_ns / (f.draws * draw_ns));
         }
+        const auto ranking = figures_.find("BM_ChartRanking");
+        const auto week = figures_.find("BM_FullWeek");
+        if (ranking != figures_.end() && week != figures_.end())
+            std::printf(
+                "BM_ChartRanking  %8.0f ns a ranking: %5.2f full weeks (no limit of its own)\n",
+                ranking->second.time(), ranking->second.time() / week->second.time());
     }
 
   private:
     struct Figures {
-        std::vector<double> ns;
+        std::vector<double> ns;         // each run's time
+        std::vector<double> median_ns;  // the median of its repetitions, when only that is shown
         double draws = 0;
+
+        double time() const { return median(ns.empty() ? median_ns : ns); }
     };
 
     static double to_ns(benchmark::TimeUnit unit) {
