@@ -1,5 +1,5 @@
-// How fast the rules run: full weeks of a signed band with ten singles on sale, the chart,
-// and saving and loading a game.
+// How fast the rules run: one random draw, full and plain weeks, the chart, and saving and
+// loading a game.
 #include <benchmark/benchmark.h>
 #include <unistd.h>
 
@@ -8,6 +8,7 @@
 #include <string>
 #include <vector>
 
+#include "bench/measure.h"
 #include "core/scripted_port.h"
 #include "flow/office.h"
 #include "rules/files/save_file.h"
@@ -17,25 +18,49 @@
 namespace tourvane {
 namespace {
 
-/// A signed band of four with ten singles on sale, a full chart and money that never runs out.
-struct SignedBand {
+/// A band of four with a full chart and money that never runs out; `Kind` says the rest.
+struct Band {
     ScriptedPort port;  // answers every box at once: OK, and No to the practice question
     Game g{port};
 
-    SignedBand() {
+    explicit Band(Integer attitude) {
         load_main(g, 7);
         Module1& r = g.rec;
         r.bandname = "The Wasps";
-        r.playername = "Sam";
+        r.playername = "Samantha Hartley";  // long enough for the office heading to need the heap
         const char* names[] = {"", "Ann Vox", "Bob Axe", "Cy Low", "Di Kit"};
         for (int s = 1; s <= 4; ++s) {
             r.membername[s] = names[s];
             r.membertalent[s] = 5;
             r.membercreativity[s] = 3;
-            r.memberattitude[s] = 2;  // misbehaves now and then
+            r.memberattitude[s] = attitude;
             r.memberhappy[s] = 7;
             r.membercharisma[s] = r.memberlooks[s] = 6;
         }
+        for (int row = kFirstRivalRow; row <= kChartRows; ++row) {
+            r.chartband[row] = r.rivalname[row - kFirstRivalRow] = "Rival " + std::to_string(row);
+            r.charttitle[row] = "Hit " + std::to_string(row);
+            r.chartquality[row] = 50;
+            r.chartdemand[row] = 100;
+            r.chartlife[row] = 250;
+        }
+    }
+
+    /// What every week needs done before it, as the player's clicks between weeks would.
+    void clear_desk() {
+        g.memos.clear();
+        g.forms.main.enabled = true;
+        // Millions of weeks would pile millions of boxes into the diary and weeks into the
+        // history; a real game's stay small, so each week starts them afresh.
+        g.diary.clear();
+        g.history.clear();
+    }
+};
+
+/// A signed band with ten singles on sale, whose members misbehave now and then.
+struct SignedBand : Band {
+    SignedBand() : Band(2) {
+        Module1& r = g.rec;
         for (int k = 1; k <= 10; ++k) {
             r.songname[k] = "Song " + std::to_string(k);
             r.songquality[k] = 40;
@@ -45,13 +70,6 @@ struct SignedBand {
         r.songcount = r.nextsong = 10;
         r.signed_ = kTrue;
         r.promotion = 4;
-        for (int row = kFirstRivalRow; row <= kChartRows; ++row) {
-            r.chartband[row] = r.rivalname[row - kFirstRivalRow] = "Rival " + std::to_string(row);
-            r.charttitle[row] = "Hit " + std::to_string(row);
-            r.chartquality[row] = 50;
-            r.chartdemand[row] = 100;
-            r.chartlife[row] = 250;
-        }
     }
 
     /// Keeps the band in business between weeks, as a player's gigs and releases would.
@@ -62,24 +80,105 @@ struct SignedBand {
         r.signed_ = kTrue;
         for (int k = 1; k <= 10; ++k)
             if (r.singledemand[k] < 100) r.singledemand[k] = 1200;
-        g.memos.clear();
-        g.forms.main.enabled = true;
-        // Millions of weeks would pile millions of boxes into the diary; a real game's diary
-        // stays small, so each week notes its boxes into a short one.
-        g.diary.clear();
+        clear_desk();
     }
 };
 
-void BM_FullWeek(benchmark::State& state) {
-    SignedBand band;
+/// An unsigned band that behaves, with three songs written and a fourth in the studio, and
+/// no promotion: a week where nothing happens to the band but the practice question.
+struct PlainBand : Band {
+    PlainBand() : Band(4) {
+        Module1& r = g.rec;
+        for (int k = 1; k <= 3; ++k) {
+            r.songname[k] = "Song " + std::to_string(k);
+            r.songquality[k] = 30;
+        }
+        r.songcount = r.nextsong = 3;
+    }
+
+    void refill() {
+        Module1& r = g.rec;
+        r.cash = 1'000'000;
+        r.popularity = 100;  // too few fans for the radio or the television to call
+        r.songweeks = 5;     // the song never comes out of the studio
+        clear_desk();
+    }
+};
+
+/// Plays `weeks` weeks of a fresh `B` as its benchmark does and counts their random draws.
+/// After each week, a copy of the generator as it stood before the week is moved on draw by
+/// draw until its next two values are the two the game's generator will give next.
+template <class B>
+double draws_per_week(benchmark::IterationCount weeks) {
+    constexpr std::size_t kMostDraws = 1 << 16;  // far more than a week can draw
+    B band;
+    double draws = 0;
+    for (benchmark::IterationCount w = 0; w < weeks; ++w) {
+        band.refill();
+        Rnd probe = band.g.rnd;
+        command6(band.g);
+        Rnd after = band.g.rnd;
+        const double first = after();
+        const double second = after();
+        std::size_t taken = 0;
+        for (double value = probe(), next = probe(); value != first || next != second;
+             value = next, next = probe())
+            if (++taken == kMostDraws) return -1;
+        draws += static_cast<double>(taken);
+    }
+    return draws / static_cast<double>(weeks);
+}
+
+/// Weeks of `B` one after another, with the allocations, the boxes and memos (the diary's
+/// lines) and the random draws of the average week beside the time.
+template <class B>
+void run_weeks(benchmark::State& state) {
+    B band;
+    std::size_t notes = 0;
+    const std::size_t allocations_before = bench::allocations();
     for (auto _ : state) {
         band.refill();
         command6(band.g);
+        notes += band.g.diary.size();
         benchmark::DoNotOptimize(band.g.rec.cash);
+    }
+    const auto per_week = benchmark::Counter::kAvgIterations;
+    state.counters["allocs/week"] = benchmark::Counter(
+        static_cast<double>(bench::allocations() - allocations_before), per_week);
+    state.counters["notes/week"] = benchmark::Counter(static_cast<double>(notes), per_week);
+    const double draws = draws_per_week<B>(state.iterations());
+    if (draws < 0) state.SkipWithError("the draws of a week were not found");
+    state.counters[bench::kDrawsPerWeek] = draws;
+    state.SetItemsProcessed(state.iterations());
+}
+
+/// One draw as the rules make one, `Int(Rnd()*N)+1` stored into an Integer of the record,
+/// through the game's own random source.
+void BM_Draw(benchmark::State& state) {
+    ScriptedPort port;
+    Game g{port};
+    g.rnd.reseed(7);
+    Integer& field = g.rec.songweeks;
+    for (auto _ : state) {
+        store(field, Int(g.rnd() * 6) + 1);
+        benchmark::DoNotOptimize(field);  // stored, and the generator with it, before the next
     }
     state.SetItemsProcessed(state.iterations());
 }
+BENCHMARK(BM_Draw);
+
+/// One Next Week (`command6`), start to end, of the signed band: ten sales boxes, the whole
+/// chart moving.
+void BM_FullWeek(benchmark::State& state) {
+    run_weeks<SignedBand>(state);
+}
 BENCHMARK(BM_FullWeek);
+
+/// One Next Week of the plain band: only the practice question, the chart still moving.
+void BM_PlainWeek(benchmark::State& state) {
+    run_weeks<PlainBand>(state);
+}
+BENCHMARK(BM_PlainWeek);
 
 void BM_ChartRanking(benchmark::State& state) {
     SignedBand band;
@@ -154,5 +253,3 @@ BENCHMARK(BM_Load)->UseRealTime();
 
 }  // namespace
 }  // namespace tourvane
-
-BENCHMARK_MAIN();

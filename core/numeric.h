@@ -31,7 +31,9 @@ constexpr T saturate(std::int64_t v) {
 
 /// Int(): rounds down, for any double (NaN gives 0, out-of-range values clamp).
 inline std::int64_t Int(double v) {
-    if (v > -9.2e18 && v < 9.2e18) {                  // false for NaN too
+    // Truncation toward zero is the floor for the values of the draws, 0 and above.
+    if (v >= 0 && v < 9.2e18) return static_cast<std::int64_t>(v);
+    if (v > -9.2e18 && v < 0) {                       // false for NaN too
         const auto i = static_cast<std::int64_t>(v);  // truncates toward zero
         return i - (v < static_cast<double>(i));
     }

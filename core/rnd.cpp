@@ -21,10 +21,4 @@ void Rnd::reseed_from_clock() {
     reseed(static_cast<std::uint64_t>(std::chrono::system_clock::now().time_since_epoch().count()));
 }
 
-double Rnd::take_queued() {
-    double v = queued_[next_queued_++];
-    if (next_queued_ == queued_.size()) clear_queue();
-    return v;
-}
-
 }  // namespace tourvane

@@ -21,7 +21,9 @@ class Rnd {
 
     /// A draw from 0 up to but not including 1.
     double operator()() {
-        if (next_queued_ < queued_.size()) return take_queued();
+        // The queue is emptied as its last value is drawn: a queue that is there has values.
+        if (!queued_.empty()) [[unlikely]]
+            return take_queued();
         return fallback();
     }
 
@@ -38,7 +40,12 @@ class Rnd {
     }
 
   private:
-    double take_queued();
+    // Written out here, so that a draw calls no function of its own.
+    double take_queued() {
+        const double v = queued_[next_queued_++];
+        if (next_queued_ == queued_.size()) clear_queue();
+        return v;
+    }
     double fallback() {
         // xoshiro256+: the top 53 bits make a uniform double in [0, 1).
         const std::uint64_t result = s_[0] + s_[3];

@@ -11,14 +11,16 @@ Answer ScriptedPort::msgbox(std::string_view text, Buttons buttons, bool critica
             answer = queued;
         } else {
             ++mismatches_;
-            report({.kind = Shown::Kind::MisfitAnswer, .buttons = buttons, .answer = queued});
+            if (sink_)
+                sink_({.kind = Shown::Kind::MisfitAnswer, .buttons = buttons, .answer = queued});
         }
     }
-    report({.kind = Shown::Kind::Box,
-            .text = std::string(text),
-            .buttons = buttons,
-            .critical = critical,
-            .answer = answer});
+    if (sink_)
+        sink_({.kind = Shown::Kind::Box,
+               .text = std::string(text),
+               .buttons = buttons,
+               .critical = critical,
+               .answer = answer});
     return answer;
 }
 
@@ -28,15 +30,17 @@ std::string ScriptedPort::inputbox(std::string_view prompt, std::string_view tit
         answer = std::move(inputs_.front());
         inputs_.pop_front();
     }
-    report({.kind = Shown::Kind::Prompt,
-            .text = std::string(prompt),
-            .title = std::string(title),
-            .typed = answer});
+    if (sink_)
+        sink_({.kind = Shown::Kind::Prompt,
+               .text = std::string(prompt),
+               .title = std::string(title),
+               .typed = answer});
     return answer;
 }
 
 void ScriptedPort::memo_raised(std::string_view from, std::string_view text) {
-    report({.kind = Shown::Kind::Memo, .text = std::string(text), .title = std::string(from)});
+    if (sink_)
+        sink_({.kind = Shown::Kind::Memo, .text = std::string(text), .title = std::string(from)});
 }
 
 }  // namespace tourvane

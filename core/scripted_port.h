@@ -49,11 +49,7 @@ class ScriptedPort : public UiPort {
     void memo_raised(std::string_view from, std::string_view text) override;
 
   private:
-    void report(Shown shown) {
-        if (sink_) sink_(shown);
-    }
-
-    Sink sink_;
+    Sink sink_;  // with none, nothing shown is copied
     std::deque<Answer> answers_;
     std::deque<std::string> inputs_;
     int mismatches_ = 0;

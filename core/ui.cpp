@@ -1,6 +1,8 @@
 #include "core/ui.h"
 
+#include <charconv>
 #include <cmath>
+#include <iterator>
 
 #include "core/diary.h"
 
@@ -93,12 +95,22 @@ std::string format_date(double day_count) {
     return text;
 }
 
+namespace {
+/// `sign` and the digits of `pounds`, made in one piece.
+std::string money(std::string_view sign, long long pounds) {
+    char text[32];
+    sign.copy(text, sign.size());
+    const char* end = std::to_chars(text + sign.size(), std::end(text), pounds).ptr;
+    return std::string(text, static_cast<std::size_t>(end - text));
+}
+}  // namespace
+
 std::string format_pounds(long long pounds) {
-    return "£" + std::to_string(pounds);
+    return money("£", pounds);
 }
 
 std::string format_cash(long long pounds) {
-    return "£ " + std::to_string(pounds);
+    return money("£ ", pounds);
 }
 
 void end_program(Game& g) {

@@ -94,7 +94,7 @@ void hire(Game& g) {
 void update(Game& g) {
     Module1& r = g.rec;
     OfficeForm& f = g.forms.main;
-    f.txtname.caption = r.playername + "'s Office";
+    f.txtname.caption.assign(r.playername).append("'s Office");  // in place: no new text a week
     f.txtdate.caption = format_date(r.gamedate);
     f.txtcash.caption = format_cash(r.cash);
     for (int slot = 1; slot <= kMemberSlots; ++slot) {

@@ -32,16 +32,19 @@ void chart_step(Game& g) {
         if (r.chartdemand[i] <= 0) r.chartdemand[i] = 1;
         r.chartlastsales[i] = r.chartsales[i];
 
-        if (Int(g.rnd() * 2) + 1 == 1)
-            store(r.chartdemand[i], r.chartdemand[i] + Int(g.rnd() * 5) + 1);
-        else
-            store(r.chartdemand[i], r.chartdemand[i] - Int(g.rnd() * 5) + 1);
+        // Demand and fame go up or down as a coin falls, each by a draw of its own. Both ways
+        // are worked out and the coin only picks one, so its fall costs the processor no
+        // wrong guess.
+        const bool demand_up = Int(g.rnd() * 2) + 1 == 1;
+        const auto demand_step = Int(g.rnd() * 5);
+        store(r.chartdemand[i],
+              demand_up ? r.chartdemand[i] + demand_step + 1 : r.chartdemand[i] - demand_step + 1);
         if (r.chartdemand[i] < 0) r.chartdemand[i] = 0;
 
-        if (Int(g.rnd() * 2) + 1 == 1)
-            store(r.chartfame[i], r.chartfame[i] + Int(g.rnd() * 3) + 1);
-        else
-            store(r.chartfame[i], r.chartfame[i] - Int(g.rnd() * 10) + 1);
+        const bool fame_up = Int(g.rnd() * 2) + 1 == 1;
+        const auto fame_step = Int(g.rnd() * (fame_up ? 3 : 10));
+        store(r.chartfame[i],
+              fame_up ? r.chartfame[i] + fame_step + 1 : r.chartfame[i] - fame_step + 1);
         if (r.chartfame[i] < 0) r.chartfame[i] = 0;
 
         store(g.main.rivalsales, percent_of(r.chartdemand[i], r.chartlife[i]));
