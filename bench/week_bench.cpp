@@ -105,6 +105,19 @@ struct PlainBand : Band {
     }
 };
 
+/// The plain band without its drummer: nobody asks a band short of a member to practise, so
+/// its weeks raise no box and no memo at all.
+struct QuietBand : PlainBand {
+    QuietBand() {
+        Module1& r = g.rec;
+        r.membername[4] = "None";
+        r.membersex[4].clear();
+        r.membertalent[4] = r.membercharisma[4] = r.memberattitude[4] = 0;
+        r.memberlooks[4] = r.membercreativity[4] = 0;
+        r.vacancy = 4;
+    }
+};
+
 /// Plays `weeks` weeks of a fresh `B` as its benchmark does and counts their random draws.
 /// After each week, a copy of the generator as it stood before the week is moved on draw by
 /// draw until its next two values are the two the game's generator will give next.
@@ -134,18 +147,29 @@ double draws_per_week(benchmark::IterationCount weeks) {
 template <class B>
 void run_weeks(benchmark::State& state) {
     B band;
-    std::size_t notes = 0;
+    // The first weeks give the texts of the game the room they keep from then on.
+    for (int w = 0; w < 2000; ++w) band.refill(), command6(band.g);
+    std::size_t notes = 0, quiet_weeks = 0, quiet_allocations = 0;
     const std::size_t allocations_before = bench::allocations();
     for (auto _ : state) {
         band.refill();
+        const std::size_t week_start = bench::allocations();
         command6(band.g);
         notes += band.g.diary.size();
+        if (band.g.diary.empty()) {
+            ++quiet_weeks;
+            quiet_allocations += bench::allocations() - week_start;
+        }
         benchmark::DoNotOptimize(band.g.rec.cash);
     }
     const auto per_week = benchmark::Counter::kAvgIterations;
     state.counters["allocs/week"] = benchmark::Counter(
         static_cast<double>(bench::allocations() - allocations_before), per_week);
     state.counters["notes/week"] = benchmark::Counter(static_cast<double>(notes), per_week);
+    // A week that raised no box and no memo must have made no allocation at all.
+    if (quiet_weeks > 0)
+        state.counters["allocs/quiet week"] =
+            static_cast<double>(quiet_allocations) / static_cast<double>(quiet_weeks);
     const double draws = draws_per_week<B>(state.iterations());
     if (draws < 0) state.SkipWithError("the draws of a week were not found");
     state.counters[bench::kDrawsPerWeek] = draws;
@@ -179,6 +203,12 @@ void BM_PlainWeek(benchmark::State& state) {
     run_weeks<PlainBand>(state);
 }
 BENCHMARK(BM_PlainWeek);
+
+/// One Next Week of the quiet band: no box, no memo.
+void BM_QuietWeek(benchmark::State& state) {
+    run_weeks<QuietBand>(state);
+}
+BENCHMARK(BM_QuietWeek);
 
 void BM_ChartRanking(benchmark::State& state) {
     SignedBand band;

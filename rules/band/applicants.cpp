@@ -23,10 +23,14 @@ const char* looks_phrase(int looks) {
     return "is gorgeous!! ";
 }
 
-std::string instrument_wording(const Module1& r, int slot) {
-    if (slot == 1) return "Vocalist, and ";
-    std::string instrument = in_bounds(r.instrument, slot) ? r.instrument[slot] : std::string();
-    return instrument + " player, and ";
+/// Adds what the member of `slot` plays to `text`.
+void add_instrument(std::string& text, const Module1& r, int slot) {
+    if (slot == 1) {
+        text += "Vocalist, and ";
+        return;
+    }
+    if (in_bounds(r.instrument, slot)) text += r.instrument[slot];
+    text += " player, and ";
 }
 
 }  // namespace
@@ -39,8 +43,9 @@ void newapplicant(Game& g) {
     a.applicantsex = Int(g.rnd() * 2) + 1 == 1 ? "Male" : "Female";
     const auto forename = Int(g.rnd() * 30) + 1;
     const auto surname = Int(g.rnd() * 30) + 1;
-    a.applicantname = (a.applicantsex == "Male" ? r.malename[forename] : r.femalename[forename]) +
-                      r.surname[surname];
+    // Written in place, as the sentence below is: an applicant a week makes no new text.
+    a.applicantname = a.applicantsex == "Male" ? r.malename[forename] : r.femalename[forename];
+    a.applicantname += r.surname[surname];
     a.applicanttalent = static_cast<Integer>(Int(g.rnd() * 5) + 1);
     a.applicantcharisma = static_cast<Integer>(Int(g.rnd() * 10) + 1);
     a.applicantattitude = static_cast<Integer>(Int(g.rnd() * 10) + 1);
@@ -52,7 +57,7 @@ void newapplicant(Game& g) {
     text += " wants to join the band, ";
     text += a.applicantsex == "Male" ? "he is a " : "she is a ";
     text += talent_word(a.applicanttalent);
-    text += instrument_wording(r, r.vacancy);
+    add_instrument(text, r, r.vacancy);
     text += looks_phrase(a.applicantlooks);
 }
 
