@@ -20,7 +20,7 @@ void show_savefrm(Game& g) {
     if (!f.loaded) load_savefrm(g);
     f.visible = true;
     // Each slot tells what it holds, as the files stand now.
-    for (int i = 0; i < kSaveSlots; ++i) f.saveslot[i].tooltip = slot_details(g, i);
+    for (int i = 0; i < kSaveSlots; ++i) f.saveslot[i].tooltip = slot_details(*g.files, i);
     // Something must always be chosen while the screen is up: the top slot comes first.
     bool chosen = false;
     for (const Control& c : f.saveslot) chosen = chosen || c.value;

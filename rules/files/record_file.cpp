@@ -54,13 +54,16 @@ void RecordWriter::put_date(Date v) {
     put_le(next_record(), std::bit_cast<std::uint64_t>(v), 8);
 }
 
-std::uint64_t RecordReader::take(std::size_t n) {
+template <std::size_t N>
+std::uint64_t RecordReader::take() {
     const std::size_t start = record_ * kRecordBytes;
     ++record_;
-    if (start + n <= bytes_.size()) return get_le(bytes_.data() + start, n);
-    std::uint8_t b[8] = {};
-    for (std::size_t i = 0; start + i < bytes_.size(); ++i) b[i] = bytes_[start + i];
-    return get_le(b, n);
+    std::uint8_t b[N] = {};
+    if (start + N <= bytes_.size())
+        std::memcpy(b, bytes_.data() + start, N);
+    else
+        for (std::size_t i = 0; start + i < bytes_.size(); ++i) b[i] = bytes_[start + i];
+    return get_le(b, N);
 }
 
 std::string RecordReader::get_string() {
@@ -81,15 +84,15 @@ std::string RecordReader::get_string() {
 }
 
 Integer RecordReader::get_integer() {
-    return static_cast<Integer>(static_cast<std::uint16_t>(take(2)));
+    return static_cast<Integer>(static_cast<std::uint16_t>(take<2>()));
 }
 
 Long RecordReader::get_long() {
-    return static_cast<Long>(static_cast<std::uint32_t>(take(4)));
+    return static_cast<Long>(static_cast<std::uint32_t>(take<4>()));
 }
 
 Date RecordReader::get_date() {
-    const Date d = std::bit_cast<Date>(take(8));
+    const Date d = std::bit_cast<Date>(take<8>());
     if (!(d >= kFirstDay && d <= kLastDay)) {
         damaged_ = true;
         return 0.0;

@@ -76,7 +76,8 @@ class RecordReader {
   private:
     /// The first `n` bytes of the current record as a little-endian number (zeros past the
     /// end of the file), and moves on to the next record.
-    std::uint64_t take(std::size_t n);
+    template <std::size_t N>
+    std::uint64_t take();
 
     std::span<const std::uint8_t> bytes_;
     std::size_t record_ = 0;

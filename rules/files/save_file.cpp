@@ -120,10 +120,11 @@ std::optional<Module1> read_save(const std::filesystem::path& path, const Module
     return parse_save(*bytes, running);
 }
 
-std::string slot_details(const Game& g, int slot) {
-    const auto bytes = g.files->read(slot_file(slot), kSaveBytes);
+std::string slot_details(FilePort& files, int slot) {
+    const auto bytes = files.read(slot_file(slot), kSaveBytes);
     if (!bytes || bytes->empty()) return "Empty slot: no game saved here yet.";
-    const std::optional<Module1> game = parse_save(*bytes, g.rec);
+    // Read over an empty record rather than a copy of the running one: only saved fields show.
+    const std::optional<Module1> game = parse_save(*bytes, Module1{});
     if (!game) return "This file is damaged and cannot be loaded.";
     return game->bandname + ", " + format_date(game->gamedate) + ", " + format_cash(game->cash);
 }

@@ -36,11 +36,10 @@ bool write_save(const Module1& r, const std::filesystem::path& path, std::string
 std::optional<Module1> read_save(const std::filesystem::path& path, const Module1& running,
                                  FilePort& files = disk_files());
 
-/// What a slot of the game's files holds, for telling the slots apart: the band, the game
-/// date and the cash of its save ("The Wasps, 08/09/2001, £ 3000"), read over the running
-/// game as a load reads it; or that the slot is empty, or that its file can't be loaded.
-/// Changes nothing.
-std::string slot_details(const Game& g, int slot);
+/// What a slot among `files` holds, for telling the slots apart: the band, the game
+/// date and the cash of its save ("The Wasps, 08/09/2001, £ 3000"), read as a load reads it;
+/// or that the slot is empty, or that its file can't be loaded. Changes nothing.
+std::string slot_details(FilePort& files, int slot);
 
 /// The band name in the first record of a save file; empty for a missing or damaged file.
 std::string read_slot_name(FilePort& files, const std::filesystem::path& path);
