@@ -1,11 +1,13 @@
 #pragma once
 // One running game: the record, the screens' fields and controls, the memo queue, the
-// random source and the port through which the rules ask the player.
+// random source, the port through which the rules ask the player and the one through which
+// they read and write files.
 
 #include <deque>
 #include <string>
 #include <vector>
 
+#include "core/file_port.h"
 #include "core/forms.h"
 #include "core/record.h"
 #include "core/rnd.h"
@@ -43,6 +45,7 @@ struct Game {
     Forms forms;
     Rnd rnd;
     UiPort* ui;
+    FilePort* files = &disk_files();
 
     /// Memos raised and not yet acknowledged; the front one is on the memo screen.
     std::deque<Memo> memos;

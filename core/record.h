@@ -89,6 +89,8 @@ struct Module1 {
     Arr<Integer, 70> chartlife{};
     Arr<std::string, 60> rivalname{};
     Arr<Integer, 60> rivalfame{};
+
+    bool operator==(const Module1&) const = default;
 };
 
 /// Fields of the office screen `main`. None is saved.

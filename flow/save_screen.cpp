@@ -20,7 +20,7 @@ void show_savefrm(Game& g) {
     if (!f.loaded) load_savefrm(g);
     f.visible = true;
     // Each slot tells what it holds, as the files stand now.
-    for (int i = 0; i < kSaveSlots; ++i) f.saveslot[i].tooltip = slot_details(i, g.rec);
+    for (int i = 0; i < kSaveSlots; ++i) f.saveslot[i].tooltip = slot_details(*g.files, i);
     // Something must always be chosen while the screen is up: the top slot comes first.
     bool chosen = false;
     for (const Control& c : f.saveslot) chosen = chosen || c.value;
@@ -70,14 +70,15 @@ void savefrm_save(Game& g) {
     const int slot = chosen_slot(g.forms.savefrm);
     if (slot < 0) return;
     std::string reason;
-    if (!write_save(g.rec, slot_file(slot), reason)) {
+    const std::vector<std::uint8_t> bytes = save_bytes(g.rec);
+    if (!g.files->replace(slot_file(slot), bytes, reason)) {
         MsgBox(g,
                "The game could not be saved in slot " + std::to_string(slot + 1) + " (" +
                    slot_file(slot).string() + "): " + reason + ".",
                Buttons::Ok, true);
         return;
     }
-    write_history(g, slot, save_bytes(g.rec));
+    write_history(g, slot, bytes);
     update(g);
     listupdate(g);
     g.forms.main.visible = true;
@@ -88,13 +89,13 @@ void savefrm_save(Game& g) {
 void savefrm_load(Game& g) {
     const int slot = chosen_slot(g.forms.savefrm);
     if (slot < 0) return;
-    std::optional<Module1> loaded = read_save(slot_file(slot), g.rec);
+    std::optional<Module1> loaded = read_save(slot_file(slot), g.rec, *g.files);
     if (!loaded) {
         MsgBox(g, "This file is not valid or does not exist.", Buttons::Ok, true);
         return;
     }
     // The career's diary and weeks come back with it; a game saved with none starts afresh.
-    CareerHistory career = read_history(slot, save_bytes(*loaded));
+    CareerHistory career = read_history(*g.files, slot, *loaded);
     g.diary = std::move(career.diary);
     g.history = std::move(career.history);
     g.segments = std::move(career.segments);

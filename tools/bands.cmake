@@ -1,8 +1,8 @@
 # The rival bands file. data/bands.txt is the readable table; make_bands turns it into
 # bin/bands.dat, which the game finds beside itself, and into a built-in copy compiled into
 # the game for when no bands.dat can be read.
-add_executable(tourvane-make-bands tools/make_bands.cpp rules/files/record_file.cpp
-                                   rules/files/cp1252.cpp)
+add_executable(tourvane-make-bands tools/make_bands.cpp core/file_port.cpp
+                                   rules/files/record_file.cpp rules/files/cp1252.cpp)
 target_include_directories(tourvane-make-bands PRIVATE ${CMAKE_CURRENT_SOURCE_DIR})
 target_link_libraries(tourvane-make-bands PRIVATE tourvane_warnings)
 

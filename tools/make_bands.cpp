@@ -130,7 +130,7 @@ int main(int argc, char** argv) {
     }
     RecordWriter records(kEntries * 5);
     if (!read_table(argv[1], records)) return 1;
-    const std::vector<std::uint8_t>& bytes = records.bytes();
+    const std::vector<std::uint8_t> bytes = records.take();
     if (bytes.size() != kFileBytes) return fail(argv[1], "wrong size"), 1;
 
     std::string reason;

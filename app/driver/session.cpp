@@ -69,9 +69,10 @@ std::string field_line(const Field& f, int index) {
 
 }  // namespace
 
-Session::Session(std::ostream& out, std::optional<std::uint64_t> seed)
+Session::Session(std::ostream& out, std::optional<std::uint64_t> seed, FilePort& files)
     : out_(out), seed_(seed), port_([this](const Shown& shown) { print(transcript_line(shown)); }) {
     game_ = std::make_unique<Game>(port_);
+    game_->files = &files;
     fields_ = fields(*game_);
 }
 

@@ -19,8 +19,8 @@ namespace tourvane::driver {
 class Session {
   public:
     /// A game that prints its transcript to `out`. `seed` seeds the fallback draws; without it
-    /// they are seeded from the clock, as the game does.
-    Session(std::ostream& out, std::optional<std::uint64_t> seed);
+    /// they are seeded from the clock, as the game does. The game's files are kept in `files`.
+    Session(std::ostream& out, std::optional<std::uint64_t> seed, FilePort& files = disk_files());
     Session(const Session&) = delete;
     Session& operator=(const Session&) = delete;
 

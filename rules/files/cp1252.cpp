@@ -1,6 +1,7 @@
 #include "rules/files/cp1252.h"
 
 #include <cstdint>
+#include <cstring>
 
 namespace tourvane {
 
@@ -78,7 +79,24 @@ void append_utf8(std::string& out, char32_t c) {
 
 }  // namespace
 
+bool is_ascii(std::string_view text) {
+    // Eight bytes at a time: the top bit of any byte marks a character beyond ASCII.
+    std::uint64_t bits = 0;
+    std::size_t i = 0;
+    for (; i + 8 <= text.size(); i += 8) {
+        std::uint64_t word;
+        std::memcpy(&word, text.data() + i, 8);
+        bits |= word;
+    }
+    for (; i < text.size(); ++i) bits |= static_cast<unsigned char>(text[i]);
+    return (bits & 0x8080808080808080ull) == 0;
+}
+
 bool utf8_to_cp1252(std::string_view utf8, std::string& out) {
+    if (is_ascii(utf8)) {
+        out.assign(utf8);
+        return true;
+    }
     out.clear();
     out.reserve(utf8.size());
     bool all_held = true;
@@ -96,6 +114,7 @@ bool utf8_to_cp1252(std::string_view utf8, std::string& out) {
 }
 
 std::string cp1252_to_utf8(std::string_view bytes) {
+    if (is_ascii(bytes)) return std::string(bytes);
     std::string out;
     out.reserve(bytes.size() + bytes.size() / 4);
     for (char ch : bytes) {

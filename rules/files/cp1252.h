@@ -7,6 +7,9 @@
 
 namespace tourvane {
 
+/// True when the text is plain ASCII, which both encodings store as the same bytes.
+bool is_ascii(std::string_view text);
+
 /// Converts UTF-8 text to Windows-1252 into `out`. A character the code page can't hold (or a
 /// byte that isn't UTF-8) becomes '?'; the result is false when that happened.
 bool utf8_to_cp1252(std::string_view utf8, std::string& out);

@@ -38,8 +38,8 @@ std::optional<CareerHistory> parse_history(std::span<const std::uint8_t> bytes, 
 /// can't be written, no older history is left behind to join the new save.
 void write_history(const Game& g, int slot, std::span<const std::uint8_t> save);
 
-/// The history kept for the save in `slot` whose bytes are `save`; empty when there is none
+/// The history kept among `files` for the save of `saved` in `slot`; empty when there is none
 /// that belongs to it.
-CareerHistory read_history(int slot, std::span<const std::uint8_t> save);
+CareerHistory read_history(FilePort& files, int slot, const Module1& saved);
 
 }  // namespace tourvane

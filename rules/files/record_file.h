@@ -9,13 +9,12 @@
 
 #include <cstddef>
 #include <cstdint>
-#include <filesystem>
-#include <optional>
 #include <span>
 #include <string>
 #include <string_view>
 #include <vector>
 
+#include "core/file_port.h"
 #include "core/numeric.h"
 
 namespace tourvane {
@@ -28,9 +27,9 @@ inline constexpr std::size_t kMaxStringBytes = kRecordBytes - 2;
 /// Lays records one after another into one buffer, to be written to disk in one go.
 class RecordWriter {
   public:
-    explicit RecordWriter(std::size_t expected_records = 0) {
-        buf_.reserve(expected_records * kRecordBytes);
-    }
+    /// Makes the room for `expected_records` at once; more still fit.
+    explicit RecordWriter(std::size_t expected_records = 0)
+        : buf_(expected_records * kRecordBytes) {}
 
     /// Text in UTF-8, stored in Windows-1252. A character the code page lacks is stored as
     /// '?', and text beyond 126 bytes is cut.
@@ -42,12 +41,16 @@ class RecordWriter {
     /// A record holding the two bytes 00 00.
     void put_blank() { put_integer(0); }
 
-    const std::vector<std::uint8_t>& bytes() const { return buf_; }
-    std::vector<std::uint8_t> take() { return std::move(buf_); }
+    /// The records laid so far.
+    std::vector<std::uint8_t> take() {
+        buf_.resize(used_);
+        return std::move(buf_);
+    }
 
   private:
     std::uint8_t* next_record();
-    std::vector<std::uint8_t> buf_;
+    std::vector<std::uint8_t> buf_;  ///< the records, then zeros for those still to come
+    std::size_t used_ = 0;
 };
 
 /// Reads records in order from bytes in memory. Reading past the end gives empty text and
@@ -71,9 +74,10 @@ class RecordReader {
     std::size_t records_read() const { return record_; }
 
   private:
-    /// Copies `n` bytes from the start of the current record (zeros past the end of the file)
-    /// and moves on to the next record.
-    void take(std::uint8_t* out, std::size_t n);
+    /// The first `n` bytes of the current record as a little-endian number (zeros past the
+    /// end of the file), and moves on to the next record.
+    template <std::size_t N>
+    std::uint64_t take();
 
     std::span<const std::uint8_t> bytes_;
     std::size_t record_ = 0;
@@ -83,18 +87,5 @@ class RecordReader {
 /// The earliest and latest days a Date can show: 1 January 100 and 31 December 9999.
 inline constexpr Date kFirstDay = -657434.0;
 inline constexpr Date kLastDay = 2958465.0;
-
-/// Reads the first `limit` bytes of a file (all of a shorter one), in one read. Nothing when
-/// the file is missing or can't be read. Never creates a file.
-std::optional<std::vector<std::uint8_t>> read_file(const std::filesystem::path& path,
-                                                   std::size_t limit);
-
-/// Puts `bytes` in place of the file at `path` without ever leaving it half written: the
-/// bytes go to a new file beside it, flushed to the disk, which is then renamed over the old
-/// one, and the folder is flushed so that the new name lasts through a power cut. On failure
-/// `reason` says what went wrong; the old file is as it was unless only that last flush of
-/// the folder failed.
-bool replace_file(const std::filesystem::path& path, std::span<const std::uint8_t> bytes,
-                  std::string& reason);
 
 }  // namespace tourvane

@@ -113,22 +113,24 @@ bool write_save(const Module1& r, const std::filesystem::path& path, std::string
     return replace_file(path, save_bytes(r), reason);
 }
 
-std::optional<Module1> read_save(const std::filesystem::path& path, const Module1& running) {
-    const auto bytes = read_file(path, kSaveBytes);
+std::optional<Module1> read_save(const std::filesystem::path& path, const Module1& running,
+                                 FilePort& files) {
+    const auto bytes = files.read(path, kSaveBytes);
     if (!bytes) return std::nullopt;
     return parse_save(*bytes, running);
 }
 
-std::string slot_details(int slot, const Module1& running) {
-    const auto bytes = read_file(slot_file(slot), kSaveBytes);
+std::string slot_details(FilePort& files, int slot) {
+    const auto bytes = files.read(slot_file(slot), kSaveBytes);
     if (!bytes || bytes->empty()) return "Empty slot: no game saved here yet.";
-    const std::optional<Module1> game = parse_save(*bytes, running);
+    // Read over an empty record rather than a copy of the running one: only saved fields show.
+    const std::optional<Module1> game = parse_save(*bytes, Module1{});
     if (!game) return "This file is damaged and cannot be loaded.";
     return game->bandname + ", " + format_date(game->gamedate) + ", " + format_cash(game->cash);
 }
 
-std::string read_slot_name(const std::filesystem::path& path) {
-    const auto bytes = read_file(path, kRecordBytes);
+std::string read_slot_name(FilePort& files, const std::filesystem::path& path) {
+    const auto bytes = files.read(path, kRecordBytes);
     if (!bytes) return {};
     RecordReader reader(*bytes);
     std::string name = reader.get_string();
@@ -136,7 +138,7 @@ std::string read_slot_name(const std::filesystem::path& path) {
 }
 
 void read_slot_names(Game& g) {
-    for (int i = 0; i < kSaveSlots; ++i) g.rec.slotname[i] = read_slot_name(slot_file(i));
+    for (int i = 0; i < kSaveSlots; ++i) g.rec.slotname[i] = read_slot_name(*g.files, slot_file(i));
 }
 
 }  // namespace tourvane

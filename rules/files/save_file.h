@@ -31,17 +31,18 @@ std::optional<Module1> parse_save(std::span<const std::uint8_t> bytes, const Mod
 /// whole. On failure the old file is kept and `reason` says why.
 bool write_save(const Module1& r, const std::filesystem::path& path, std::string& reason);
 
-/// Reads the save at `path` over `running` (see parse_save). Nothing when the file is
+/// Reads the save at `path` in `files` over `running` (see parse_save). Nothing when the file is
 /// missing, unreadable or no save.
-std::optional<Module1> read_save(const std::filesystem::path& path, const Module1& running);
+std::optional<Module1> read_save(const std::filesystem::path& path, const Module1& running,
+                                 FilePort& files = disk_files());
 
-/// What a slot holds, for telling the slots apart: the band, the game date and the cash of
-/// its save ("The Wasps, 08/09/2001, £ 3000"), read as a load reads it; or that the slot is
-/// empty, or that its file can't be loaded. Changes nothing.
-std::string slot_details(int slot, const Module1& running);
+/// What a slot among `files` holds, for telling the slots apart: the band, the game
+/// date and the cash of its save ("The Wasps, 08/09/2001, £ 3000"), read as a load reads it;
+/// or that the slot is empty, or that its file can't be loaded. Changes nothing.
+std::string slot_details(FilePort& files, int slot);
 
 /// The band name in the first record of a save file; empty for a missing or damaged file.
-std::string read_slot_name(const std::filesystem::path& path);
+std::string read_slot_name(FilePort& files, const std::filesystem::path& path);
 
 /// Reads the band name of each of the four slots into `slotname`, as the title screen loads.
 void read_slot_names(Game& g);

@@ -71,14 +71,15 @@ std::vector<std::filesystem::path> bands_search_path() {
 std::optional<std::filesystem::path> loadbands_from(
     Game& g, const std::vector<std::filesystem::path>& candidates) {
     for (const std::filesystem::path& place : candidates) {
-        const auto bytes = read_file(place, kBandsBytes);
+        const auto bytes = g.files->read(place, kBandsBytes);
         if (!bytes) continue;
         if (const auto table = parse_bands(*bytes)) {
             apply_bands(g, *table);
             return place;
         }
     }
-    if (const auto table = parse_bands(builtin_bands())) apply_bands(g, *table);
+    static const std::optional<RivalTable> builtin = parse_bands(builtin_bands());  // never changes
+    if (builtin) apply_bands(g, *builtin);
     return std::nullopt;
 }
 

@@ -39,8 +39,9 @@ std::span<const std::uint8_t> builtin_bands();
 /// the installed data folder, first as it lies from the program and then by its full path.
 std::vector<std::filesystem::path> bands_search_path();
 
-/// Sets up the rival rows and the pool from the first whole file among `candidates`, or from
-/// the built-in copy when there is none. Gives the file used, or nothing for the built-in.
+/// Sets up the rival rows and the pool from the first whole file among `candidates`, read
+/// through the game's files, or from the built-in copy when there is none. Gives the file
+/// used, or nothing for the built-in.
 std::optional<std::filesystem::path> loadbands_from(
     Game& g, const std::vector<std::filesystem::path>& candidates);
 

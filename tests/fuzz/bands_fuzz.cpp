@@ -5,29 +5,21 @@
 #include <cstdint>
 #include <span>
 
-#include "core/scripted_port.h"
-#include "flow/office.h"
 #include "rules/music/bands.h"
 #include "rules/music/chart.h"
 #include "tests/fuzz/fuzz_support.h"
 
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
     using namespace tourvane;
-    fuzz::enter_scratch_folder();
-    static ScriptedPort port;
-    static const Game started = [] {
-        Game g(port);
-        load_main(g, 1);
-        return g;
-    }();
     const std::span<const std::uint8_t> bytes(data, size);
-    fuzz::put_file("bands.dat", bytes);
+    fuzz::started_files().files["bands.dat"].assign(bytes.begin(), bytes.end());
 
-    Game g = started;
+    Game g = fuzz::started_game();
     const auto table = parse_bands(bytes);
     const auto used = loadbands_from(g, {"bands.dat"});
     FUZZ_CHECK(used.has_value() == table.has_value());
-    const RivalTable expected = table ? *table : *parse_bands(builtin_bands());
+    static const RivalTable builtin = *parse_bands(builtin_bands());
+    const RivalTable& expected = table ? *table : builtin;
     for (int row = kFirstRivalRow; row <= kChartRows; ++row) {
         const RivalEntry& e = expected[row - kFirstRivalRow];
         FUZZ_CHECK(g.rec.chartband[row] == e.band && g.rec.charttitle[row] == e.title);

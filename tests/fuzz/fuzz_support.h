@@ -1,43 +1,17 @@
 #pragma once
-// What the fuzz targets share: a private working folder for the files the game writes, and
-// a check that stops the run with a message when a round trip disagrees.
+// What the fuzz targets share: files kept in memory, so that no input waits for the disk; the
+// title screen of a run started beside a saved game; and a check that stops the run with a
+// message when a property fails.
 
-#include <cstdint>
+#include <algorithm>
 #include <cstdio>
 #include <cstdlib>
-#include <filesystem>
-#include <fstream>
-#include <span>
-#include <string>
+#include <map>
 
-namespace tourvane::fuzz {
-
-/// Makes a fresh folder the working directory for the rest of the run, so that save files
-/// and bands.dat written by a target never land beside the sources. The folder goes when the
-/// run ends normally; after a crash it stays, with the files of the breaking input.
-inline void enter_scratch_folder() {
-    static std::filesystem::path folder;
-    if (!folder.empty()) return;
-    std::string pattern =
-        (std::filesystem::temp_directory_path() / "tourvane-fuzz-XXXXXX").string();
-    if (::mkdtemp(pattern.data()) == nullptr) std::abort();
-    folder = pattern;
-    std::filesystem::current_path(folder);
-    std::atexit([] {
-        std::error_code ec;
-        std::filesystem::current_path(folder.parent_path(), ec);
-        std::filesystem::remove_all(folder, ec);
-    });
-}
-
-/// Writes `bytes` to `path` in the working folder.
-inline void put_file(const std::filesystem::path& path, std::span<const std::uint8_t> bytes) {
-    std::ofstream out(path, std::ios::binary | std::ios::trunc);
-    out.write(reinterpret_cast<const char*>(bytes.data()),
-              static_cast<std::streamsize>(bytes.size()));
-}
-
-}  // namespace tourvane::fuzz
+#include "core/scripted_port.h"
+#include "flow/clicks.h"
+#include "flow/office.h"
+#include "rules/files/save_file.h"
 
 /// Stops the run when a property of the game does not hold for this input.
 #define FUZZ_CHECK(cond)                                                                  \
@@ -47,3 +21,53 @@ inline void put_file(const std::filesystem::path& path, std::span<const std::uin
             std::abort();                                                                 \
         }                                                                                 \
     } while (0)
+
+namespace tourvane::fuzz {
+
+/// The game's files held in memory instead of on the disk.
+class MemoryFiles : public FilePort {
+  public:
+    std::map<std::filesystem::path, std::vector<std::uint8_t>> files;
+
+    std::optional<std::vector<std::uint8_t>> read(const std::filesystem::path& path,
+                                                  std::size_t limit) override {
+        const auto it = files.find(path);
+        if (it == files.end()) return std::nullopt;
+        const std::size_t n = std::min(limit, it->second.size());
+        return std::vector<std::uint8_t>(it->second.begin(), it->second.begin() + n);
+    }
+    bool replace(const std::filesystem::path& path, std::span<const std::uint8_t> bytes,
+                 std::string&) override {
+        files[path].assign(bytes.begin(), bytes.end());
+        return true;
+    }
+    void remove(const std::filesystem::path& path) override { files.erase(path); }
+};
+
+/// The files of the started game below.
+inline MemoryFiles& started_files() {
+    static MemoryFiles files;
+    return files;
+}
+
+/// The title screen of a run started with its files in memory, beside a save of a new game
+/// (with no history file) in slot 0; the same for every input. Boxes get OK, questions No.
+inline const Game& started_game() {
+    static ScriptedPort port;
+    static const Game started = [] {
+        Game g(port);
+        g.files = &started_files();
+        load_main(g, 1);
+        port.queue_input("The Wasps");
+        port.queue_input("Sam");
+        click(g, "Form1", "New");
+        started_files().files[slot_file(0)] = save_bytes(g.rec);
+        Game fresh(port);
+        fresh.files = &started_files();
+        load_main(fresh, 1);
+        return fresh;
+    }();
+    return started;
+}
+
+}  // namespace tourvane::fuzz

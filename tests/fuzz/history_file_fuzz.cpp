@@ -6,44 +6,19 @@
 #include <cstdint>
 #include <span>
 
-#include "core/scripted_port.h"
-#include "flow/clicks.h"
-#include "flow/office.h"
 #include "rules/files/history_file.h"
-#include "rules/files/save_file.h"
 #include "tests/fuzz/fuzz_support.h"
-
-namespace tourvane {
-namespace {
-
-/// The title screen of a run started beside a save of a new game, the same for every input.
-const Game& started_game() {
-    static ScriptedPort port;  // OK to every box
-    static const Game started = [] {
-        Game g(port);
-        load_main(g, 1);
-        port.queue_input("The Wasps");
-        port.queue_input("Sam");
-        click(g, "Form1", "New");
-        std::string why;
-        FUZZ_CHECK(write_save(g.rec, slot_file(0), why));
-        Game fresh(port);
-        load_main(fresh, 1);
-        return fresh;
-    }();
-    return started;
-}
-
-}  // namespace
-}  // namespace tourvane
 
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
     using namespace tourvane;
-    fuzz::enter_scratch_folder();
     const std::span<const std::uint8_t> bytes(data, size);
-    const Game& started = started_game();
-    const auto save = read_file(slot_file(0), kSaveBytes);
-    FUZZ_CHECK(save.has_value());
+    static const Game started = [] {  // with the load screen open
+        Game g = fuzz::started_game();
+        FUZZ_CHECK(click(g, "Form1", "load") == ClickResult::Done);
+        return g;
+    }();
+    static const std::uint64_t slot_mark =
+        save_mark(*fuzz::started_files().read(slot_file(0), kSaveBytes));
 
     // The reader with the input's own mark, so that the fuzzer gets past it.
     std::uint64_t mark = 0;
@@ -57,11 +32,10 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
     }
 
     Game g = started;
-    fuzz::put_file(history_file(0), bytes);
-    FUZZ_CHECK(click(g, "Form1", "load") == ClickResult::Done);
+    fuzz::started_files().files[history_file(0)].assign(bytes.begin(), bytes.end());
     FUZZ_CHECK(click(g, "savefrm", "load") == ClickResult::Done);
     FUZZ_CHECK(!g.forms.savefrm.loaded && g.forms.main.visible);  // never refused
-    const auto kept = parse_history(bytes, save_mark(*save));
+    const auto kept = parse_history(bytes, slot_mark);
     FUZZ_CHECK(g.diary.size() == (kept ? kept->diary.size() : 0) + 1);
     FUZZ_CHECK(g.history.size() == (kept ? kept->history.size() : 0));
     FUZZ_CHECK(g.diary.back().text == "Game Loaded");

@@ -25,11 +25,9 @@ void replay(const std::filesystem::path& file) {
 }  // namespace
 
 int main(int argc, char** argv) {
-    // The targets work in a folder of their own, so every place is fixed before the first.
-    std::vector<std::filesystem::path> places;
-    for (int i = 1; i < argc; ++i) places.push_back(std::filesystem::absolute(argv[i]));
     int count = 0;
-    for (const std::filesystem::path& place : places) {
+    for (int i = 1; i < argc; ++i) {
+        const std::filesystem::path place(argv[i]);
         if (std::filesystem::is_directory(place)) {
             std::vector<std::filesystem::path> files;
             for (const auto& entry : std::filesystem::directory_iterator(place))

@@ -8,7 +8,6 @@
 
 #include "app/driver/command.h"
 #include "app/driver/session.h"
-#include "rules/files/save_file.h"
 #include "tests/fuzz/fuzz_support.h"
 
 namespace {
@@ -24,12 +23,10 @@ class Discard : public std::streambuf {
 
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
     using namespace tourvane;
-    fuzz::enter_scratch_folder();
-    for (int slot = 0; slot < kSaveSlots; ++slot) std::filesystem::remove(slot_file(slot));
-
+    fuzz::MemoryFiles files;  // no save in any slot
     Discard sink;
     std::ostream out(&sink);
-    driver::Session session(out, 1);
+    driver::Session session(out, 1, files);
     std::string_view text(reinterpret_cast<const char*>(data), size);
     while (!text.empty()) {
         const std::size_t end = text.find('\n');
