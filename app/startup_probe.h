@@ -36,16 +36,19 @@ inline double ms_since_process_start() {
            static_cast<double>(start_ticks) * 1e3 / static_cast<double>(sysconf(_SC_CLK_TCK));
 }
 
-/// Watches the title screen; at its first paint prints the time and quits the program.
+/// Watches a window (the title screen); at its first paint prints the time and quits the
+/// program.
 class StartupProbe : public QObject {
   public:
-    explicit StartupProbe(QWidget* title) { title->installEventFilter(this); }
+    explicit StartupProbe(QWidget* window, const char* what = "the title screen") : what_(what) {
+        window->installEventFilter(this);
+    }
 
   protected:
     bool eventFilter(QObject* watched, QEvent* event) override {
         if (event->type() == QEvent::Paint && !done_) {
             done_ = true;
-            std::printf("startup: the title screen was drawn %.0f ms after the process started\n",
+            std::printf("startup: %s was drawn %.0f ms after the process started\n", what_,
                         ms_since_process_start());
             std::fflush(stdout);
             QTimer::singleShot(0, [] { QCoreApplication::exit(0); });
@@ -54,6 +57,7 @@ class StartupProbe : public QObject {
     }
 
   private:
+    const char* what_;
     bool done_ = false;
 };
 

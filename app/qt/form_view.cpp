@@ -97,7 +97,11 @@ FormView::FormView(FormState& form, std::vector<Control*> controls, FormSkin ski
     setWindowTitle(skin_.title);
     setAccessibleName(skin_.title);
     setAttribute(Qt::WA_StyledBackground, !skin_.picture);
-    for (Control* c : controls) bindings_.push_back(Binding{c, build(*c), {}, 0, false});
+    for (Control* c : controls) {
+        Binding& b = bindings_.emplace_back();
+        b.control = c;
+        b.widget = build(*c);
+    }
     setStyleSheet(skin_.style_sheet);
     for (Binding& b : bindings_)
         if (auto* list = qobject_cast<ListBox*>(b.widget)) list->fit_whole_rows();
@@ -182,13 +186,44 @@ QWidget* FormView::build(Control& c) {
 }
 
 void FormView::refresh() {
-    for (Binding& b : bindings_) refresh(b);
-    update();  // the picture may show the controls' states
+    bool picture = false;
+    for (Binding& b : bindings_)
+        if (refresh(b) && b.control->kind == ControlKind::HotSpot) picture = true;
+    // A hot spot is drawn by the picture; every other widget repaints itself as it changes.
+    if (picture) update();
 }
 
-void FormView::refresh(Binding& b) {
+bool FormView::refresh(Binding& b) {
     const Control& c = *b.control;
     QWidget* w = b.widget;
+    // What a widget may change by itself goes back to the model's every time.
+    if (c.kind == ControlKind::Option) {
+        static_cast<QRadioButton*>(w)->setChecked(c.value);
+    } else if (c.kind == ControlKind::ListBox && b.rows == c.rows) {
+        auto* list = static_cast<ListBox*>(w);
+        const QSignalBlocker quiet(list);
+        const int selected = c.selected < list->count() ? c.selected : -1;
+        list->setCurrentRow(selected);
+        if (selected < 0) list->clearSelection();
+    } else if (c.kind == ControlKind::ComboBox && b.rows == c.rows) {
+        auto* combo = static_cast<QComboBox*>(w);
+        const QSignalBlocker quiet(combo);
+        combo->setCurrentIndex(c.selected < combo->count() ? c.selected : -1);
+    }
+    const std::string reason =
+        c.kind != ControlKind::Label && !c.enabled && explain_ ? explain_(form_, c) : std::string();
+    const bool coloured = c.rule_colour || (skin_.model_colours && c.kind == ControlKind::Label);
+    if (b.copied && b.rows == c.rows && b.caption == c.caption && b.tooltip == c.tooltip &&
+        b.reason == reason && b.enabled == c.enabled && b.visible == c.visible &&
+        (!coloured || (b.coloured && b.colour == c.color)))
+        return false;
+    b.copied = true;
+    b.caption = c.caption;
+    b.tooltip = c.tooltip;
+    b.reason = reason;
+    b.enabled = c.enabled;
+    b.visible = c.visible;
+
     const auto named = skin_.names.find(control_key(c));
     const bool has_name = named != skin_.names.end();
     const QString caption = qs(c.caption);
@@ -250,6 +285,7 @@ void FormView::refresh(Binding& b) {
             auto* list = static_cast<ListBox*>(w);
             const QSignalBlocker quiet(list);
             if (b.rows != c.rows) {
+                list->ensurePolished();  // rows are cut to the font of the screen's style
                 list->clear();
                 const int room = list->row_room(static_cast<int>(c.rows.size()));
                 for (const std::string& row : c.rows) {
@@ -274,6 +310,7 @@ void FormView::refresh(Binding& b) {
             auto* combo = static_cast<QComboBox*>(w);
             const QSignalBlocker quiet(combo);
             if (b.rows != c.rows) {
+                combo->ensurePolished();
                 combo->clear();
                 const int room = combo->width() - kComboArrow;
                 for (const std::string& row : c.rows) {
@@ -296,8 +333,6 @@ void FormView::refresh(Binding& b) {
 
     // A hover tells the whole caption where it is cut short, and a grey control says why;
     // enabled again, it has its usual tip back.
-    const std::string reason =
-        c.kind != ControlKind::Label && !c.enabled && explain_ ? explain_(form_, c) : std::string();
     const QString tip = hover_text(c, cut ? caption : QString(), qs(reason));
     w->setToolTip(tip);
     if (c.kind != ControlKind::Label) {
@@ -307,13 +342,13 @@ void FormView::refresh(Binding& b) {
         w->setAccessibleDescription(cut ? caption : QString());
     }
 
-    const bool coloured = c.rule_colour || (skin_.model_colours && c.kind == ControlKind::Label);
     if (coloured && (!b.coloured || b.colour != c.color)) {
         w->setStyleSheet(QStringLiteral("color: #%1;").arg(c.color, 6, 16, QLatin1Char('0')));
         b.colour = c.color;
         b.coloured = true;
     }
     w->setVisible(c.visible);
+    return true;
 }
 
 const FormView::Binding* FormView::find(std::string_view key) const {

@@ -50,7 +50,8 @@ class FormView : public QWidget {
     FormView(FormState& form, std::vector<Control*> controls, FormSkin skin);
 
     /// Copies the whole model of this screen into its widgets (not the window's visibility,
-    /// which the set of windows decides, since it also places the window).
+    /// which the set of windows decides, since it also places the window). Only what has
+    /// changed is touched, and so repainted.
     void refresh();
 
     const FormState& form() const { return form_; }
@@ -81,15 +82,20 @@ class FormView : public QWidget {
 
   private:
     struct Binding {
-        Control* control;
-        QWidget* widget;
+        Control* control = nullptr;
+        QWidget* widget = nullptr;
         std::vector<std::string> rows;  ///< rows last copied into a list
         std::uint32_t colour = 0;
         bool coloured = false;
+        /// What was last copied from the control, to skip a control that has not changed.
+        bool copied = false;
+        std::string caption, tooltip, reason;
+        bool enabled = true, visible = true;
     };
 
     QWidget* build(Control& c);
-    void refresh(Binding& b);
+    /// Copies one control into its widget; true if what it shows has changed.
+    bool refresh(Binding& b);
     void click_key(const std::string& key);
     Binding* find(std::string_view key);
     const Binding* find(std::string_view key) const;

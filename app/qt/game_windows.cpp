@@ -60,34 +60,16 @@ void bring_forward(QWidget* window) {
 
 }  // namespace
 
-GameWindows::GameWindows(Game& g) : g_(g) {
+GameWindows::GameWindows(Game& g, QIcon icon) : g_(g), icon_(std::move(icon)) {
     Forms& f = g.forms;
-    views_.emplace_back(make_form_view(f.Form1, title_skin()));
-    views_.emplace_back(make_form_view(f.main, office_skin()));
-    views_.emplace_back(make_form_view(f.messageForm, memo_skin()));
-    views_.emplace_back(make_form_view(f.gig, gig_skin()));
-    views_.emplace_back(make_form_view(f.thenewspaper, newspaper_skin()));
-    views_.emplace_back(make_form_view(f.savefrm, files_skin()));
-    views_.emplace_back(make_form_view(f.Chart, chart_skin()));
-    const QIcon icon = program_icons();
-    for (auto& v : views_) {
-        FormView* view = v.get();
-        view->setWindowIcon(icon);
-        view->set_explainer([this](const FormState& form, const Control& c) {
-            return disabled_reason(g_, form, c);
-        });
-        connect(view, &FormView::controlClicked, this,
-                [this, view](const Control* c, int index) { forward(view, c, index, false); });
-        connect(view, &FormView::controlDoubleClicked, this,
-                [this, view](const Control* c, int row) { forward(view, c, row, true); });
-    }
-    side_ = std::make_unique<SideWindows>(g, *view("main"));
-    std::vector<QWidget*> windows{&side_->diary(), &side_->graph(), &side_->keys()};
-    for (auto& v : views_) windows.push_back(v.get());
-    for (QWidget* window : windows) {
-        auto* shortcut = new QShortcut(quit_key(), window);
-        connect(shortcut, &QShortcut::activated, this, &GameWindows::quit);
-    }
+    screens_.push_back({&f.Form1, title_skin, {}});
+    screens_.push_back({&f.main, office_skin, {}});
+    screens_.push_back({&f.messageForm, memo_skin, {}});
+    screens_.push_back({&f.gig, gig_skin, {}});
+    screens_.push_back({&f.thenewspaper, newspaper_skin, {}});
+    screens_.push_back({&f.savefrm, files_skin, {}});
+    screens_.push_back({&f.Chart, chart_skin, {}});
+    build(screens_.front());
     qApp->installEventFilter(this);
 }
 
@@ -95,15 +77,56 @@ GameWindows::~GameWindows() {
     qApp->removeEventFilter(this);
 }
 
+FormView* GameWindows::build(Screen& screen) const {
+    auto* self = const_cast<GameWindows*>(this);
+    screen.view.reset(make_form_view(*screen.form, screen.skin()));
+    FormView* view = screen.view.get();
+    if (!icon_.isNull()) view->setWindowIcon(icon_);
+    view->set_explainer([self](const FormState& form, const Control& c) {
+        return disabled_reason(self->g_, form, c);
+    });
+    connect(view, &FormView::controlClicked, self,
+            [self, view](const Control* c, int index) { self->forward(view, c, index, false); });
+    connect(view, &FormView::controlDoubleClicked, self,
+            [self, view](const Control* c, int row) { self->forward(view, c, row, true); });
+    view->refresh();  // now with the reasons of grey controls
+    quit_key_for(*view);
+    if (screen.form == &g_.forms.main) {
+        // The office opens the side windows with its keys.
+        side_ = std::make_unique<SideWindows>(g_, *view);
+        for (QWidget* window :
+             {static_cast<QWidget*>(&side_->diary()), static_cast<QWidget*>(&side_->graph()),
+              static_cast<QWidget*>(&side_->keys())})
+            quit_key_for(*window);
+    }
+    return view;
+}
+
+void GameWindows::quit_key_for(QWidget& window) const {
+    auto* shortcut = new QShortcut(quit_key(), &window);
+    connect(shortcut, &QShortcut::activated, const_cast<GameWindows*>(this), &GameWindows::quit);
+}
+
 FormView* GameWindows::view(std::string_view form) const {
-    for (const auto& v : views_)
-        if (form == v->form().name) return v.get();
+    for (Screen& s : screens_)
+        if (form == s.form->name) return s.view ? s.view.get() : build(s);
     return nullptr;
 }
 
+FormView* GameWindows::built(std::string_view form) const {
+    for (const Screen& s : screens_)
+        if (form == s.form->name) return s.view.get();
+    return nullptr;
+}
+
+SideWindows& GameWindows::side() const {
+    if (!side_) view("main");
+    return *side_;
+}
+
 FormView* GameWindows::view_of(const QWidget* window) const {
-    for (const auto& v : views_)
-        if (v.get() == window) return v.get();
+    for (const Screen& s : screens_)
+        if (s.view && s.view.get() == window) return s.view.get();
     return nullptr;
 }
 
@@ -119,8 +142,9 @@ void GameWindows::forward(FormView* view, const Control* control, int index, boo
     refresh();
     if (g_.ended && !ended_) {
         ended_ = true;
-        for (auto& v : views_) v->hide();
-        side_->close_all();
+        for (Screen& s : screens_)
+            if (s.view) s.view->hide();
+        if (side_) side_->close_all();
         shown_.clear();
         emit ended();
     }
@@ -136,13 +160,19 @@ void GameWindows::quit() {
 }
 
 void GameWindows::refresh() {
-    for (auto& v : views_) v->refresh();
-    forward_seen_.resize(views_.size(), 0);
-    for (std::size_t i = 0; i < views_.size(); ++i) {
-        FormView* view = views_[i].get();
+    for (Screen& s : screens_) {
+        const bool wanted = s.form->loaded && s.form->visible && !g_.ended;
+        if (s.view)
+            s.view->refresh();
+        else if (wanted)
+            build(s);
+    }
+    for (Screen& s : screens_) {
+        FormView* view = s.view.get();
+        const bool forward = s.form->forward_requests != s.forward_seen;
+        s.forward_seen = s.form->forward_requests;
+        if (!view) continue;  // never wanted yet
         const bool wanted = view->form().loaded && view->form().visible && !g_.ended;
-        const bool forward = view->form().forward_requests != forward_seen_[i];
-        forward_seen_[i] = view->form().forward_requests;
         if (wanted && view->isVisible() && forward) bring_forward(view);
         if (wanted && !view->isVisible()) {
             show_view(view);
@@ -157,13 +187,13 @@ void GameWindows::refresh() {
         bring_forward(shown_.back());
     }
     // A memo stays in front of the office it has disabled.
-    if (FormView* memo = view("messageForm"); memo->isVisible()) {
+    if (FormView* memo = built("messageForm"); memo && memo->isVisible()) {
         bring_forward(memo);
         announce_memo(*memo);
     } else {
         announced_memo_.clear();
     }
-    side_->refresh();
+    if (side_) side_->refresh();
 }
 
 void GameWindows::announce_memo(FormView& memo) {
@@ -186,19 +216,19 @@ void GameWindows::show_view(FormView* view) {
 
 void GameWindows::place(FormView* view) {
     const std::string_view name = view->form().name;
-    FormView* office = this->view("main");
-    FormView* title = this->view("Form1");
+    FormView* office = built("main");
+    FormView* title = built("Form1");
     const bool stays = name == "main" || name == "Form1";
     if (stays && std::find(placed_.begin(), placed_.end(), view) != placed_.end()) return;
 
     // What the window opens over: the latest window on show, else the office.
     const QWidget* anchor = shown_.empty() ? nullptr : shown_.back();
     if (name == "main") anchor = title->testAttribute(Qt::WA_Moved) ? title : nullptr;
-    if (!anchor && office->testAttribute(Qt::WA_Moved) && view != office) anchor = office;
+    if (!anchor && office && office->testAttribute(Qt::WA_Moved) && view != office) anchor = office;
     const QRect screen = screen_area(anchor);
 
     QRect frame(QPoint(0, 0), view->size());
-    if (name == "Chart" && office->isVisible()) {
+    if (name == "Chart" && office && office->isVisible()) {
         // Beside the office, on the right if there is room, else on the left.
         QRect o = office->frameGeometry();
         const int both = o.width() + kGap + frame.width();

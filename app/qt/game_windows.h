@@ -1,8 +1,10 @@
 #pragma once
 // The seven screens of a running game as windows. Every click on a control goes to the game's
 // one click entry; afterwards every screen is refreshed from the form model, which also decides
-// which windows stand open. When the game ends the windows close and `ended` is signalled.
+// which windows stand open (a screen's window is built the first time it is needed). When the game
+// ends the windows close and `ended` is signalled.
 
+#include <QIcon>
 #include <QObject>
 #include <memory>
 #include <string>
@@ -10,6 +12,7 @@
 #include <vector>
 
 #include "app/qt/form_view.h"
+#include "app/qt/pictures.h"
 #include "app/qt/side_windows.h"
 #include "core/game.h"
 
@@ -19,19 +22,21 @@ class GameWindows : public QObject {
     Q_OBJECT
   public:
     /// Builds a window for each screen of `g`; call `refresh` to show what the model holds.
-    explicit GameWindows(Game& g);
+    /// The windows show `icon`, or with an empty one the program's (QApplication's).
+    explicit GameWindows(Game& g, QIcon icon = program_icons());
     ~GameWindows() override;
 
     /// Copies the whole form model into the windows: controls, and which windows are shown.
     void refresh();
 
-    /// The window of a screen by its form name ("main", "Form1" ...), or nullptr.
+    /// The window of a screen by its form name ("main", "Form1" ...), or nullptr. A window is
+    /// built the first time it is asked for or has to be shown.
     FormView* view(std::string_view form) const;
 
     Game& game() { return g_; }
 
     /// The diary, the week graph and the key help, opened from the office.
-    SideWindows& side() { return *side_; }
+    SideWindows& side() const;
 
     /// What the quit key does in any window: EXIT while the title is up, else the office's
     /// quit button, which asks first (and, like any click there, is refused while a screen or
@@ -55,13 +60,26 @@ class GameWindows : public QObject {
     void place(FormView* view);
     FormView* view_of(const QWidget* window) const;
 
+    /// A screen's window, built when first needed: the title at once, the others later, so
+    /// that the title is on screen sooner.
+    struct Screen {
+        FormState* form;
+        FormSkin (*skin)();
+        std::unique_ptr<FormView> view;
+        unsigned forward_seen = 0;  ///< the form's forward requests handled
+    };
+    FormView* build(Screen& screen) const;
+    /// The window of a screen if it has been built, else nullptr.
+    FormView* built(std::string_view form) const;
+    void quit_key_for(QWidget& window) const;
+
     Game& g_;
-    std::vector<std::unique_ptr<FormView>> views_;
-    std::unique_ptr<SideWindows> side_;
-    std::vector<FormView*> shown_;        ///< windows on show, in the order they were opened
-    std::vector<FormView*> placed_;       ///< windows that stay where the player left them
-    std::vector<unsigned> forward_seen_;  ///< per view, the form's forward requests handled
-    std::string announced_memo_;          ///< the memo last announced, or empty
+    QIcon icon_;
+    mutable std::vector<Screen> screens_;
+    mutable std::unique_ptr<SideWindows> side_;
+    std::vector<FormView*> shown_;   ///< windows on show, in the order they were opened
+    std::vector<FormView*> placed_;  ///< windows that stay where the player left them
+    std::string announced_memo_;     ///< the memo last announced, or empty
     bool ended_ = false;
 };
 

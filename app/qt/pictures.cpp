@@ -586,8 +586,23 @@ QPixmap program_icon(int size) {
 }
 
 QIcon program_icons() {
+    return program_icons(program_icon_images());
+}
+
+std::vector<QImage> program_icon_images() {
+    std::vector<QImage> images;
+    for (int size : {16, 22, 24, 32, 48, 64, 128, 256}) {
+        QImage& image = images.emplace_back(size, size, QImage::Format_ARGB32_Premultiplied);
+        image.fill(Qt::transparent);
+        QPainter p(&image);
+        paint_program_icon(p, size);
+    }
+    return images;
+}
+
+QIcon program_icons(const std::vector<QImage>& images) {
     QIcon icon;
-    for (int size : {16, 22, 24, 32, 48, 64, 128, 256}) icon.addPixmap(program_icon(size));
+    for (const QImage& image : images) icon.addPixmap(QPixmap::fromImage(image));
     return icon;
 }
 

@@ -4,6 +4,7 @@
 
 #include <QChar>
 #include <QIcon>
+#include <QImage>
 #include <QPixmap>
 #include <QRect>
 #include <QString>
@@ -48,5 +49,9 @@ QPixmap program_icon(int size = 42);
 void paint_program_icon(QPainter& p, qreal size);
 /// The icon at every size a desktop asks of a window, 16 to 256 pixels.
 QIcon program_icons();
+/// The same sizes drawn into images: unlike pixmaps, any thread may draw them, so the game
+/// draws its icon while its first window is being built. `program_icons(images)` is the icon.
+std::vector<QImage> program_icon_images();
+QIcon program_icons(const std::vector<QImage>& images);
 
 }  // namespace tourvane
