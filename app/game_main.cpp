@@ -1,13 +1,10 @@
 // The game: the title screen, the office and the other screens in windows.
 
-#include <dlfcn.h>
-
 #include <QApplication>
 #include <QIcon>
 #include <QStyleFactory>
 #include <future>
 #include <memory>
-#include <thread>
 
 #include "app/command_line.h"
 #include "app/qt/game_windows.h"
@@ -17,27 +14,12 @@
 #include "core/game.h"
 #include "flow/office.h"
 
-namespace {
-
-/// Reads the system's font configuration on a thread of its own while Qt starts, where the
-/// fontconfig library is in use: the title screen's text needs it, and reading it is a good
-/// part of the time before the title is on screen. The library is already loaded with Qt, so
-/// it is looked up rather than linked.
-std::thread read_font_configuration() {
-    using Init = int (*)();
-    auto init = reinterpret_cast<Init>(dlsym(RTLD_DEFAULT, "FcInit"));
-    return init ? std::thread(init) : std::thread();
-}
-
-}  // namespace
-
 int main(int argc, char** argv) {
     // --help, --version and every mistake are answered before a display is needed.
     QStringList raw;
     for (int i = 0; i < argc; ++i) raw << QString::fromLocal8Bit(argv[i]);
     const tourvane::CommandLine options = tourvane::parse_command_line(raw);
     if (options.stop) return tourvane::print_and_stop(options);
-    std::thread fonts = read_font_configuration();
     QApplication app(argc, argv);
     QApplication::setApplicationName("Tourvane");
     QApplication::setApplicationDisplayName("Tourvane");
@@ -49,7 +31,6 @@ int main(int argc, char** argv) {
     tourvane::QtPort port;
     tourvane::Game game(port);
     tourvane::load_main(game, options.seed);
-    if (fonts.joinable()) fonts.join();
     // The icon is drawn on a thread of its own while the title screen is built; the windows
     // take it from the program before the first of them is shown.
     auto icon = std::async(std::launch::async, tourvane::program_icon_images);
