@@ -60,11 +60,12 @@ const char* flag(bool b) {
     return b ? "1" : "0";
 }
 
-/// NAME = VALUE, or NAME(INDEX) = VALUE for an element of an array.
-std::string field_line(const Field& f, int index) {
-    std::string line = f.name;
-    if (index >= 0) line += "(" + std::to_string(index) + ")";
-    return line + " = " + format_field(f, index);
+/// Appends NAME = VALUE, or NAME(INDEX) = VALUE for an element of an array, to `out`.
+void append_field_line(std::string& out, const Field& f, int index) {
+    out += f.name;
+    if (index >= 0) out.append("(").append(std::to_string(index)).append(")");
+    out += " = ";
+    append_field(out, f, index);
 }
 
 }  // namespace
@@ -154,12 +155,21 @@ void Session::execute(const Command& c) {
         case Verb::Set:
             do_set(c);
             break;
-        case Verb::Dump:
+        case Verb::Dump: {
+            // Some 2,000 lines, laid in one string and written at once.
+            std::string text;
+            const auto add = [&](const Field& f, int index) {
+                append_field_line(text, f, index);
+                text += '\n';
+            };
             for (const Field& f : fields_) {
-                if (!f.is_array()) print(field_line(f, -1));
-                for (int i = 0; i <= f.upper; ++i) print(field_line(f, i));
+                if (!f.is_array()) add(f, -1);
+                for (int i = 0; i <= f.upper; ++i) add(f, i);
             }
+            out_ << text;
+            out_.flush();
             break;
+        }
         case Verb::Control:
             do_control(c);
             break;
@@ -243,7 +253,9 @@ void Session::do_get(const Command& c) {
     const Field* f = find_field(fields_, c.name);
     if (!f) return error("unknown field " + shown_word(c.name));
     if (auto why = check_index(*f, c); !why.empty()) return error(why);
-    print(field_line(*f, c.index));
+    std::string line;
+    append_field_line(line, *f, c.index);
+    print(line);
 }
 
 void Session::do_set(const Command& c) {

@@ -190,19 +190,25 @@ std::string format_decimal(double v) {
     return std::string(buf, ptr);
 }
 
-std::string format_field(const Field& f, int index) {
+void append_field(std::string& out, const Field& f, int index) {
+    char buf[24];
+    std::to_chars_result end{buf, {}};
     switch (f.type) {
         case FieldType::String:
-            return json_quote(f.at<std::string>(index));
+            out += json_quote(f.at<std::string>(index));
+            return;
         case FieldType::Integer:
         case FieldType::Boolean:
-            return std::to_string(f.at<Integer>(index));
+            end = std::to_chars(buf, buf + sizeof buf, f.at<Integer>(index));
+            break;
         case FieldType::Long:
-            return std::to_string(f.at<Long>(index));
+            end = std::to_chars(buf, buf + sizeof buf, f.at<Long>(index));
+            break;
         case FieldType::Date:
-            return format_decimal(f.at<Date>(index));
+            out += format_decimal(f.at<Date>(index));
+            return;
     }
-    return {};
+    out.append(buf, end.ptr);
 }
 
 std::string check_field_value(FieldType type, std::string_view text) {

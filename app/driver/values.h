@@ -33,8 +33,9 @@ std::optional<double> parse_decimal(std::string_view text);
 /// The shortest decimal that reads back as exactly `v` ("37135", "37135.5").
 std::string format_decimal(double v);
 
-/// The value of one element of a field (index -1 for a plain field) as `get` prints it.
-std::string format_field(const Field& f, int index);
+/// Appends to `out` the value of one element of a field (index -1 for a plain field) as `get`
+/// prints it.
+void append_field(std::string& out, const Field& f, int index);
 
 /// Why `text` can't be stored in a field of this type, or empty when it can.
 std::string check_field_value(FieldType type, std::string_view text);

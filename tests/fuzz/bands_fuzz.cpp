@@ -14,7 +14,7 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
     const std::span<const std::uint8_t> bytes(data, size);
     fuzz::started_files().files["bands.dat"].assign(bytes.begin(), bytes.end());
 
-    Game g = fuzz::started_game();
+    Game& g = fuzz::copy_of(fuzz::started_game());
     const auto table = parse_bands(bytes);
     const auto used = loadbands_from(g, {"bands.dat"});
     FUZZ_CHECK(used.has_value() == table.has_value());
@@ -28,7 +28,7 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
         FUZZ_CHECK(g.rec.rivalname[row - kFirstRivalRow] == e.band);
     }
 
-    for (int week = 0; week < 6; ++week) chart_step(g);
+    for (int week = 0; week < 2; ++week) chart_step(g);
     rank_chart(g);
     for (int row = 1; row <= kChartRows; ++row)
         FUZZ_CHECK(g.rec.chartplace[row] >= 1 && g.rec.chartplace[row] <= kChartRows);

@@ -70,4 +70,21 @@ inline const Game& started_game() {
     return started;
 }
 
+/// A copy of `from` in the one game kept from input to input, whose strings and lists are
+/// used again: far fewer allocations than a new copy. Good until the next call.
+inline Game& copy_of(const Game& from) {
+    static Game kept = from;
+    return kept = from;
+}
+
+/// The started game with the load screen open.
+inline const Game& load_screen() {
+    static const Game open = [] {
+        Game g = started_game();
+        FUZZ_CHECK(click(g, "Form1", "load") == ClickResult::Done);
+        return g;
+    }();
+    return open;
+}
+
 }  // namespace tourvane::fuzz

@@ -12,11 +12,7 @@
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
     using namespace tourvane;
     const std::span<const std::uint8_t> bytes(data, size);
-    static const Game started = [] {  // with the load screen open
-        Game g = fuzz::started_game();
-        FUZZ_CHECK(click(g, "Form1", "load") == ClickResult::Done);
-        return g;
-    }();
+    const Game& started = fuzz::load_screen();
     static const std::uint64_t slot_mark =
         save_mark(*fuzz::started_files().read(slot_file(0), kSaveBytes));
 
@@ -25,13 +21,13 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
     for (std::size_t i = 0; i < 8 && 8 + i < size; ++i)
         mark |= std::uint64_t{data[8 + i]} << (8 * i);
     if (const auto read = parse_history(bytes, mark)) {
-        Game again = started;
+        Game& again = fuzz::copy_of(started);
         again.diary = read->diary, again.history = read->history, again.segments = read->segments;
         FUZZ_CHECK(history_bytes(again, mark) ==
                    std::vector<std::uint8_t>(bytes.begin(), bytes.end()));
     }
 
-    Game g = started;
+    Game& g = fuzz::copy_of(started);
     fuzz::started_files().files[history_file(0)].assign(bytes.begin(), bytes.end());
     FUZZ_CHECK(click(g, "savefrm", "load") == ClickResult::Done);
     FUZZ_CHECK(!g.forms.savefrm.loaded && g.forms.main.visible);  // never refused

@@ -8,24 +8,16 @@
 #include "rules/files/record_file.h"
 #include "tests/fuzz/fuzz_support.h"
 
-namespace tourvane {
-namespace {
-
-void acknowledge_memos(Game& g) {
-    while (!g.memos.empty() && !g.ended) click(g, "messageForm", "command1");
-}
-
-}  // namespace
-}  // namespace tourvane
-
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
     using namespace tourvane;
     const std::span<const std::uint8_t> bytes(data, size);
-    const Game& started = fuzz::started_game();
-    Game g = started;
+    const Game& started = fuzz::load_screen();
+    Game& g = fuzz::copy_of(started);
+    const auto acknowledge_memos = [&g] {
+        while (!g.memos.empty() && !g.ended) click(g, "messageForm", "command1");
+    };
 
     fuzz::started_files().files[slot_file(0)].assign(bytes.begin(), bytes.end());
-    FUZZ_CHECK(click(g, "Form1", "load") == ClickResult::Done);
     FUZZ_CHECK(click(g, "savefrm", "load") == ClickResult::Done);
     const bool accepted = !g.forms.savefrm.loaded;  // a load that works closes the screen
     auto parsed = parse_save(bytes.first(std::min(size, kSaveBytes)), started.rec);
@@ -42,12 +34,12 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
     FUZZ_CHECK(g.rec == expected);
 
     // A week on the loaded game, and a look at the chart.
-    acknowledge_memos(g);
+    acknowledge_memos();
     click(g, "main", "command6");
-    acknowledge_memos(g);
+    acknowledge_memos();
     if (click(g, "main", "secret") == ClickResult::Done) click(g, "Chart", "command1");
     click(g, "main", "members", 0);
-    acknowledge_memos(g);
+    acknowledge_memos();
 
     // Saved and loaded again, the game comes back the same, unless the week has taken the
     // date past the last day a save can hold.
