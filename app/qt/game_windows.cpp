@@ -77,18 +77,16 @@ GameWindows::~GameWindows() {
     qApp->removeEventFilter(this);
 }
 
-FormView* GameWindows::build(Screen& screen) const {
-    auto* self = const_cast<GameWindows*>(this);
+FormView* GameWindows::build(Screen& screen) {
     screen.view.reset(make_form_view(*screen.form, screen.skin()));
     FormView* view = screen.view.get();
     if (!icon_.isNull()) view->setWindowIcon(icon_);
-    view->set_explainer([self](const FormState& form, const Control& c) {
-        return disabled_reason(self->g_, form, c);
-    });
-    connect(view, &FormView::controlClicked, self,
-            [self, view](const Control* c, int index) { self->forward(view, c, index, false); });
-    connect(view, &FormView::controlDoubleClicked, self,
-            [self, view](const Control* c, int row) { self->forward(view, c, row, true); });
+    view->set_explainer(
+        [this](const FormState& form, const Control& c) { return disabled_reason(g_, form, c); });
+    connect(view, &FormView::controlClicked, this,
+            [this, view](const Control* c, int index) { forward(view, c, index, false); });
+    connect(view, &FormView::controlDoubleClicked, this,
+            [this, view](const Control* c, int row) { forward(view, c, row, true); });
     view->refresh();  // now with the reasons of grey controls
     quit_key_for(*view);
     if (screen.form == &g_.forms.main) {
@@ -102,12 +100,12 @@ FormView* GameWindows::build(Screen& screen) const {
     return view;
 }
 
-void GameWindows::quit_key_for(QWidget& window) const {
+void GameWindows::quit_key_for(QWidget& window) {
     auto* shortcut = new QShortcut(quit_key(), &window);
-    connect(shortcut, &QShortcut::activated, const_cast<GameWindows*>(this), &GameWindows::quit);
+    connect(shortcut, &QShortcut::activated, this, &GameWindows::quit);
 }
 
-FormView* GameWindows::view(std::string_view form) const {
+FormView* GameWindows::view(std::string_view form) {
     for (Screen& s : screens_)
         if (form == s.form->name) return s.view ? s.view.get() : build(s);
     return nullptr;
@@ -119,7 +117,7 @@ FormView* GameWindows::built(std::string_view form) const {
     return nullptr;
 }
 
-SideWindows& GameWindows::side() const {
+SideWindows& GameWindows::side() {
     if (!side_) view("main");
     return *side_;
 }

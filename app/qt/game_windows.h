@@ -31,12 +31,12 @@ class GameWindows : public QObject {
 
     /// The window of a screen by its form name ("main", "Form1" ...), or nullptr. A window is
     /// built the first time it is asked for or has to be shown.
-    FormView* view(std::string_view form) const;
+    FormView* view(std::string_view form);
 
     Game& game() { return g_; }
 
     /// The diary, the week graph and the key help, opened from the office.
-    SideWindows& side() const;
+    SideWindows& side();
 
     /// What the quit key does in any window: EXIT while the title is up, else the office's
     /// quit button, which asks first (and, like any click there, is refused while a screen or
@@ -68,15 +68,15 @@ class GameWindows : public QObject {
         std::unique_ptr<FormView> view;
         unsigned forward_seen = 0;  ///< the form's forward requests handled
     };
-    FormView* build(Screen& screen) const;
+    FormView* build(Screen& screen);
     /// The window of a screen if it has been built, else nullptr.
     FormView* built(std::string_view form) const;
-    void quit_key_for(QWidget& window) const;
+    void quit_key_for(QWidget& window);
 
     Game& g_;
     QIcon icon_;
-    mutable std::vector<Screen> screens_;
-    mutable std::unique_ptr<SideWindows> side_;
+    std::vector<Screen> screens_;
+    std::unique_ptr<SideWindows> side_;
     std::vector<FormView*> shown_;   ///< windows on show, in the order they were opened
     std::vector<FormView*> placed_;  ///< windows that stay where the player left them
     std::string announced_memo_;     ///< the memo last announced, or empty
