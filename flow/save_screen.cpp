@@ -89,18 +89,16 @@ void savefrm_save(Game& g) {
 void savefrm_load(Game& g) {
     const int slot = chosen_slot(g.forms.savefrm);
     if (slot < 0) return;
-    std::optional<Module1> loaded = read_save(slot_file(slot), g.rec, *g.files);
-    if (!loaded) {
+    if (!read_save(slot_file(slot), g.rec, *g.files)) {
         MsgBox(g, "This file is not valid or does not exist.", Buttons::Ok, true);
         return;
     }
     // The career's diary and weeks come back with it; a game saved with none starts afresh.
-    CareerHistory career = read_history(*g.files, slot, *loaded);
+    CareerHistory career = read_history(*g.files, slot, g.rec);
     g.diary = std::move(career.diary);
     g.history = std::move(career.history);
     g.segments = std::move(career.segments);
     ++g.history_loads;
-    g.rec = std::move(*loaded);
     begin_segment(g);
     unload(g.forms.Form1);
     update(g);

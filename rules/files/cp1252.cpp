@@ -114,14 +114,22 @@ bool utf8_to_cp1252(std::string_view utf8, std::string& out) {
 }
 
 std::string cp1252_to_utf8(std::string_view bytes) {
-    if (is_ascii(bytes)) return std::string(bytes);
     std::string out;
+    cp1252_to_utf8(bytes, out);
+    return out;
+}
+
+void cp1252_to_utf8(std::string_view bytes, std::string& out) {
+    if (is_ascii(bytes)) {
+        out.assign(bytes);
+        return;
+    }
+    out.clear();
     out.reserve(bytes.size() + bytes.size() / 4);
     for (char ch : bytes) {
         const auto b = static_cast<unsigned char>(ch);
         append_utf8(out, b >= 0x80 && b < 0xA0 ? kHighControls[b - 0x80] : char32_t{b});
     }
-    return out;
 }
 
 bool fits_cp1252(std::string_view utf8) {

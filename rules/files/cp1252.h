@@ -16,6 +16,8 @@ bool utf8_to_cp1252(std::string_view utf8, std::string& out);
 
 /// Converts Windows-1252 bytes to UTF-8. Every byte has a character, so nothing is lost.
 std::string cp1252_to_utf8(std::string_view bytes);
+/// The same into `out`, using the room it already has.
+void cp1252_to_utf8(std::string_view bytes, std::string& out);
 
 /// True when every character of the UTF-8 text has a place in Windows-1252.
 bool fits_cp1252(std::string_view utf8);

@@ -66,7 +66,7 @@ std::uint64_t RecordReader::take() {
     return get_le(b, N);
 }
 
-std::string RecordReader::get_string() {
+std::string_view RecordReader::text_bytes() {
     const std::size_t start = record_ * kRecordBytes;
     ++record_;
     if (start >= bytes_.size()) return {};
@@ -79,8 +79,11 @@ std::string RecordReader::get_string() {
         damaged_ = true;
         return {};
     }
-    return cp1252_to_utf8(
-        std::string_view(reinterpret_cast<const char*>(bytes_.data() + start + 2), length));
+    return {reinterpret_cast<const char*>(bytes_.data() + start + 2), length};
+}
+
+void RecordReader::get_string(std::string& out) {
+    cp1252_to_utf8(text_bytes(), out);
 }
 
 Integer RecordReader::get_integer() {

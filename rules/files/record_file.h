@@ -61,7 +61,15 @@ class RecordReader {
     explicit RecordReader(std::span<const std::uint8_t> bytes) : bytes_(bytes) {}
 
     /// Text converted to UTF-8.
-    std::string get_string();
+    std::string get_string() {
+        std::string text;
+        get_string(text);
+        return text;
+    }
+    /// The same into `out`, using the room it already has.
+    void get_string(std::string& out);
+    /// Moves past a text record, checking it as get_string does.
+    void skip_string() { text_bytes(); }
     Integer get_integer();
     Long get_long();
     Boolean get_boolean() { return get_integer(); }
@@ -74,6 +82,9 @@ class RecordReader {
     std::size_t records_read() const { return record_; }
 
   private:
+    /// The bytes of the text in the current record, and moves on to the next record. Empty
+    /// past the end of the file and in a record that can't be trusted.
+    std::string_view text_bytes();
     /// The first `n` bytes of the current record as a little-endian number (zeros past the
     /// end of the file), and moves on to the next record.
     template <std::size_t N>

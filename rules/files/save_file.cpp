@@ -22,7 +22,7 @@ struct Saving {
 /// Fills the record from the records, in file order.
 struct Loading {
     RecordReader r;
-    void text(std::string& v) { v = r.get_string(); }
+    void text(std::string& v) { r.get_string(v); }
     void integer(Integer& v) { v = r.get_integer(); }
     void long_(Long& v) { v = r.get_long(); }
     void boolean(Boolean& v) { v = r.get_boolean(); }
@@ -30,8 +30,20 @@ struct Loading {
     void reserved() { r.skip(); }
 };
 
+/// Walks the records as loading does and changes nothing: finds a record that can't be
+/// trusted before a field is replaced.
+struct Checking {
+    RecordReader r;
+    void text(const std::string&) { r.skip_string(); }
+    void integer(Integer) { r.skip(); }
+    void long_(Long) { r.skip(); }
+    void boolean(Boolean) { r.skip(); }
+    void date(Date) { r.get_date(); }
+    void reserved() { r.skip(); }
+};
+
 /// The save file's layout: every saved field in the order of its record. `Rec` is Module1
-/// when loading and const Module1 when saving.
+/// when loading and const Module1 when saving or checking.
 template <class Rec, class Io>
 void transfer(Rec& r, Io& io) {
     io.text(r.bandname);
@@ -85,6 +97,12 @@ void transfer(Rec& r, Io& io) {
     for (int v = 1; v <= kVenues; ++v) io.boolean(r.venueopen[v]);
 }
 
+/// Only record 1, the band's name, decides whether there is a save at all.
+bool names_a_band(std::span<const std::uint8_t> bytes) {
+    RecordReader first(bytes);
+    return !first.get_string().empty() && !first.damaged();
+}
+
 }  // namespace
 
 std::filesystem::path slot_file(int slot) {
@@ -97,15 +115,20 @@ std::vector<std::uint8_t> save_bytes(const Module1& r) {
     return io.w.take();
 }
 
-std::optional<Module1> parse_save(std::span<const std::uint8_t> bytes, const Module1& running) {
-    // Only record 1 decides whether there is a save at all; look before copying anything.
-    RecordReader first(bytes);
-    if (first.get_string().empty() || first.damaged()) return std::nullopt;
-
-    std::optional<Module1> loaded(running);
+bool load_save(std::span<const std::uint8_t> bytes, Module1& rec) {
+    if (!names_a_band(bytes)) return false;
+    Checking check{RecordReader(bytes)};
+    transfer(std::as_const(rec), check);
+    if (check.r.damaged()) return false;
     Loading io{RecordReader(bytes)};
-    transfer(*loaded, io);
-    if (io.r.damaged()) return std::nullopt;
+    transfer(rec, io);
+    return true;
+}
+
+std::optional<Module1> parse_save(std::span<const std::uint8_t> bytes, const Module1& running) {
+    if (!names_a_band(bytes)) return std::nullopt;  // before copying anything
+    std::optional<Module1> loaded(running);
+    if (!load_save(bytes, *loaded)) return std::nullopt;
     return loaded;
 }
 
@@ -113,11 +136,9 @@ bool write_save(const Module1& r, const std::filesystem::path& path, std::string
     return replace_file(path, save_bytes(r), reason);
 }
 
-std::optional<Module1> read_save(const std::filesystem::path& path, const Module1& running,
-                                 FilePort& files) {
+bool read_save(const std::filesystem::path& path, Module1& rec, FilePort& files) {
     const auto bytes = files.read(path, kSaveBytes);
-    if (!bytes) return std::nullopt;
-    return parse_save(*bytes, running);
+    return bytes && load_save(*bytes, rec);
 }
 
 std::string slot_details(FilePort& files, int slot) {

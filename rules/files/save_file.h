@@ -22,19 +22,22 @@ std::filesystem::path slot_file(int slot);
 /// The 759 records of a save of `r`, in the order the file keeps them.
 std::vector<std::uint8_t> save_bytes(const Module1& r);
 
-/// The game a save file's bytes hold: `running` with every saved field replaced from the
-/// file, the rest untouched. Nothing when the bytes are no save: no band name, or a record
-/// that can't be trusted.
+/// Reads a save file's bytes over `rec`: every saved field replaced from the file, the rest
+/// untouched. False, with `rec` unchanged, when the bytes are no save: no band name, or a
+/// record that can't be trusted.
+bool load_save(std::span<const std::uint8_t> bytes, Module1& rec);
+
+/// The game a save file's bytes hold: `running` read over as load_save does. Nothing when the
+/// bytes are no save.
 std::optional<Module1> parse_save(std::span<const std::uint8_t> bytes, const Module1& running);
 
 /// Writes the save of `r` to `path`, replacing any save there only once the new one is
 /// whole. On failure the old file is kept and `reason` says why.
 bool write_save(const Module1& r, const std::filesystem::path& path, std::string& reason);
 
-/// Reads the save at `path` in `files` over `running` (see parse_save). Nothing when the file is
-/// missing, unreadable or no save.
-std::optional<Module1> read_save(const std::filesystem::path& path, const Module1& running,
-                                 FilePort& files = disk_files());
+/// Reads the save at `path` in `files` over `rec` (see load_save). False, with `rec`
+/// unchanged, when the file is missing, unreadable or no save.
+bool read_save(const std::filesystem::path& path, Module1& rec, FilePort& files = disk_files());
 
 /// What a slot among `files` holds, for telling the slots apart: the band, the game
 /// date and the cash of its save ("The Wasps, 08/09/2001, £ 3000"), read as a load reads it;
