@@ -1,5 +1,7 @@
 #include "rules/files/history_file.h"
 
+#include <algorithm>
+#include <array>
 #include <bit>
 #include <cmath>
 #include <cstring>
@@ -95,34 +97,29 @@ std::filesystem::path history_file(int slot) {
 
 std::uint64_t save_mark(std::span<const std::uint8_t> save) {
     constexpr std::uint64_t kPrime = 1099511628211ull;
-    std::uint64_t h = 14695981039346656037ull;  // FNV-1a
-    // A zero byte only multiplies by the prime, so a record's zero filler after its first
-    // eight bytes is one multiplication by the prime's 120th power: the same sum with a
-    // fraction of the work, which counts as the fuzz build traces every test and multiplication.
-    constexpr std::uint64_t kFiller = [] {
-        std::uint64_t p = 1;
-        for (std::size_t i = 8; i < kRecordBytes; ++i) p *= kPrime;
+    // A zero byte only multiplies by the prime, so the zeros that end a record are one
+    // multiplication by a power of the prime: the same FNV-1a sum, taking only the bytes up to
+    // the last non-zero one of each record.
+    static constexpr auto kPowers = [] {
+        std::array<std::uint64_t, kRecordBytes + 1> p{};
+        p[0] = 1;
+        for (std::size_t i = 1; i < p.size(); ++i) p[i] = p[i - 1] * kPrime;
         return p;
     }();
-    const auto eight = [&h](const std::uint8_t* at) {
-        std::uint8_t b[8];
-        std::memcpy(b, at, 8);
-        for (std::uint8_t x : b) h = (h ^ x) * kPrime;
-    };
-    std::size_t i = 0;
-    for (; i + kRecordBytes <= save.size(); i += kRecordBytes) {
-        std::uint64_t rest[kRecordBytes / 8 - 1];
-        std::memcpy(rest, save.data() + i + 8, sizeof rest);
-        std::uint64_t any = 0;
-        for (std::uint64_t w : rest) any |= w;
-        eight(save.data() + i);
-        if (any == 0) {
-            h *= kFiller;
-            continue;
+    std::uint64_t h = 14695981039346656037ull;
+    for (std::size_t at = 0; at < save.size(); at += kRecordBytes) {
+        const std::uint8_t* record = save.data() + at;
+        const std::size_t size = std::min(kRecordBytes, save.size() - at);
+        std::size_t used = size;
+        if (size == kRecordBytes) {  // whole words of zeros first
+            std::uint64_t words[kRecordBytes / 8];
+            std::memcpy(words, record, kRecordBytes);
+            while (used > 0 && words[used / 8 - 1] == 0) used -= 8;
         }
-        for (std::size_t j = 8; j < kRecordBytes; j += 8) eight(save.data() + i + j);
+        while (used > 0 && record[used - 1] == 0) --used;
+        for (std::size_t i = 0; i < used; ++i) h = (h ^ record[i]) * kPrime;
+        h *= kPowers[size - used];
     }
-    for (; i < save.size(); ++i) h = (h ^ save[i]) * kPrime;
     return h;
 }
 
