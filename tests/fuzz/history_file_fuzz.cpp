@@ -21,7 +21,7 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
     for (std::size_t i = 0; i < 8 && 8 + i < size; ++i)
         mark |= std::uint64_t{data[8 + i]} << (8 * i);
     if (const auto read = parse_history(bytes, mark)) {
-        Game& again = fuzz::copy_of(started);
+        static Game again = started;  // the writer reads only the diary and the weeks
         again.diary = read->diary, again.history = read->history, again.segments = read->segments;
         FUZZ_CHECK(history_bytes(again, mark) ==
                    std::vector<std::uint8_t>(bytes.begin(), bytes.end()));

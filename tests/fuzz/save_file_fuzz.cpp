@@ -1,6 +1,7 @@
 // Fuzzes the save-file reader: arbitrary bytes in a save slot are loaded through LOAD GAME,
 // a week is played on whatever was accepted, and the game is saved and loaded again. A
-// refused file must leave the running game as it was, and the round trip must agree.
+// refused file must leave the running game as it was, and the round trip must agree. (Which
+// field lands where is pinned by the save tests.)
 
 #include <cstdint>
 #include <span>
@@ -19,25 +20,16 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
 
     fuzz::started_files().files[slot_file(0)].assign(bytes.begin(), bytes.end());
     FUZZ_CHECK(click(g, "savefrm", "load") == ClickResult::Done);
-    const bool accepted = !g.forms.savefrm.loaded;  // a load that works closes the screen
-    auto parsed = parse_save(bytes.first(std::min(size, kSaveBytes)), started.rec);
-    FUZZ_CHECK(accepted == parsed.has_value());
-    if (!accepted) {
+    if (g.forms.savefrm.loaded) {  // refused: a load that works closes the screen
         FUZZ_CHECK(g.rec == started.rec);
         return 0;
     }
-    // The load refreshes the office and the band list, which work out `vacancy` and
-    // `listslot` afresh; every other saved field is as the file has it.
-    Module1& expected = *parsed;
-    expected.vacancy = g.rec.vacancy;
-    expected.listslot = g.rec.listslot;
-    FUZZ_CHECK(g.rec == expected);
 
-    // A week on the loaded game, and a look at the chart.
+    // A week on the loaded game, and a look at its first member. (The chart's ranking, which
+    // reads only numbers, is fuzzed with the rival bands.)
     acknowledge_memos();
     click(g, "main", "command6");
     acknowledge_memos();
-    if (click(g, "main", "secret") == ClickResult::Done) click(g, "Chart", "command1");
     click(g, "main", "members", 0);
     acknowledge_memos();
 
@@ -45,11 +37,13 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
     // date past the last day a save can hold.
     const std::vector<std::uint8_t> saved = save_bytes(g.rec);
     FUZZ_CHECK(saved.size() == kSaveBytes);
-    const auto again = parse_save(saved, g.rec);
+    static Module1 again;  // kept from input to input, its strings' room used again
+    again = g.rec;
+    const bool loaded = load_save(saved, again);
     if (!(g.rec.gamedate >= kFirstDay && g.rec.gamedate <= kLastDay)) {
-        FUZZ_CHECK(!again.has_value());
+        FUZZ_CHECK(!loaded);
         return 0;
     }
-    FUZZ_CHECK(again.has_value() && *again == g.rec);
+    FUZZ_CHECK(loaded && again == g.rec);
     return 0;
 }
