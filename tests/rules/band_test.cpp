@@ -7,16 +7,10 @@
 #include "rules/week/turn.h"
 #include "test_game.h"
 
-namespace tourvane {
+namespace tourvane::testing {
 namespace {
 
-using testing::Lines;
-using testing::memo;
-using testing::Rows;
-using testing::str;
-using testing::yesno;
-
-class Applicants : public ::testing::Test, protected testing::TestGame {
+class Applicants : public ::testing::Test, protected TestGame {
   protected:
     OfficeForm& f = g.forms.main;
     void SetUp() override { new_game(); }
@@ -70,14 +64,10 @@ TEST_F(Applicants, NineDrawsInOrderAndTheSentenceWordForWord) {
 }
 
 TEST_F(Applicants, ThreeDismissalsThenTheFourthIsRefusedForTheWeek) {
-    for (int n = 1; n <= 3; ++n) {
-        applicant({.forename = n});
-        press("dismiss");
-    }
+    for (int n = 1; n <= 3; ++n) applicant({.forename = n}), press("dismiss");
     EXPECT_EQ(panel().rfind("Ben Johnson wants", 0), 0u);
     press("dismiss");
-    EXPECT_EQ(memos(), Lines{memo("Dave", "There are no more applicants this week, Boss.")});
-    ok_memos();
+    said({memo("Dave", "There are no more applicants this week, Boss.")});
     EXPECT_EQ(str(panel(), f.hire.enabled, f.dismiss.enabled), " 0 0");
     applicant();
     press();  // any update reopens the panel, but the count stays at 3
@@ -114,19 +104,17 @@ TEST_F(Applicants, HireAtThreeLetsTwoMoreDismissalsThroughThenTheWeekRunsDry) {
 }
 
 TEST_F(Applicants, MemoAtExactlyFiveComesAfterTheNextApplicantIsDrawn) {
-    const Lines no_more{memo("Dave", "Sorry Boss, no more applicants this week")};
     g.main.applicantsseen = 4;
     applicant({.forename = 4, .surname = 4});
     press("hire");
     EXPECT_EQ(panel().rfind("Bryan Jones wants", 0), 0u);
-    EXPECT_EQ(memos(), no_more);
-    ok_memos();
+    said({memo("Dave", "Sorry Boss, no more applicants this week")});
     press("hire");  // the one on show can still be hired
     EXPECT_EQ(str(r.membername[2], panel()), "Bryan Jones No Applicants");
     EXPECT_TRUE(memos().empty());
 }
 
-class Roster : public testing::Office {
+class Roster : public Office {
   protected:
     OfficeForm& f = g.forms.main;
     void SetUp() override { listupdate(g), update(g); }
@@ -134,7 +122,7 @@ class Roster : public testing::Office {
 
 TEST_F(Roster, ListClosesGapsAndARowFillsThePanel) {
     dblclick(g, "main", "members");  // nobody picked yet
-    EXPECT_EQ(take(), Lines{testing::okbox("Please select a band member")});
+    EXPECT_EQ(take(), Lines{okbox("Please select a band member")});
     r.membername[2] = "None";
     put(3, "Cy Low", {.talent = 4, .charisma = 6, .attitude = 7, .looks = 8, .sex = "Female"});
     listupdate(g);
@@ -151,7 +139,7 @@ TEST_F(Roster, StatusMemoHasHappinessFrictionAndIllness) {
     const std::string content = "Bob Axe is content.  The other band members seem to get on OK ";
     const std::string quite = "Bob Axe is quite happy.  The other band members just about tolerate";
     const struct {
-        int happy, friction, ill;
+        Integer happy, friction, ill;
         const char* sex;
         std::string text;
     } cases[] = {
@@ -169,12 +157,10 @@ TEST_F(Roster, StatusMemoHasHappinessFrictionAndIllness) {
          "ill at the moment. He should be fit again in 10 weeks."},
     };
     for (const auto& c : cases) {
-        r.memberhappy[2] = static_cast<Integer>(c.happy);
-        r.memberfriction[2] = static_cast<Integer>(c.friction);
-        r.memberill[2] = static_cast<Integer>(c.ill), r.membersex[2] = c.sex;
+        r.memberhappy[2] = c.happy, r.memberfriction[2] = c.friction, r.memberill[2] = c.ill;
+        r.membersex[2] = c.sex;
         dblclick(g, "main", "members", 1);
-        EXPECT_EQ(memos(), (Lines{memo("Dave", c.text)})) << c.happy;
-        ok_memos();
+        said({memo("Dave", c.text)});
     }
 }
 
@@ -199,10 +185,8 @@ TEST_F(Roster, SackedMemberWithFrictionLiftsTheOthersAndLeavesTheSlotHalfKept) {
     EXPECT_EQ(member(2), "None|0|20 0 0 0 0 0 4 2");
     EXPECT_EQ(str(r.memberill[2], r.practice[2], r.vacancy), "2 3 2");
     EXPECT_EQ(f.members.rows, (Rows{"Ann Vox", "Cy Low", "Di Kit"}));
-    EXPECT_EQ(f.txtapplicant.caption.rfind("Adam Jones wants to join the band, he is a "
-                                           "reasonable Guitar",
-                                           0),
-              0u);
+    EXPECT_EQ(f.txtapplicant.caption.substr(0, 60),
+              "Adam Jones wants to join the band, he is a reasonable Guitar");
 }
 
 TEST_F(Roster, LeaverWithoutFrictionCostsEveryoneFourAndPopularityStopsAtZero) {
@@ -239,7 +223,7 @@ TEST_F(Roster, WalkOutCarriesALaterMemberAndLeavesTheEmptySlotPicked) {
     EXPECT_EQ(memos(), (Lines{memo("Mona", "Ann Vox" + shock), memo("Mona", "Cy Low" + shock)}));
 }
 
-class Training : public testing::Office {
+class Training : public Office {
   protected:
     void SetUp() override { listupdate(g), update(g); }
     /// A lesson for the member of row `row`, answered Yes or No; the lines it raised.
@@ -252,8 +236,8 @@ class Training : public testing::Office {
 };
 
 TEST_F(Training, PracticeStepsUpAtFourPoints) {
-    const Lines better{
-        memo("Dave", "Good news, Boss. Thanks to practising, Bob Axe has become more talented!")};
+    const Shown better =
+        memo("Dave", "Good news, Boss. Thanks to practising, Bob Axe has become more talented!");
     const int cases[][4] = {
         {3, 2, 0, 4}, {3, 1, 0, 4}, {2, 1, 3, 3}};  // points, drawn, after, talent
     for (const auto& [before, drawn, after, talent] : cases) {
@@ -261,8 +245,7 @@ TEST_F(Training, PracticeStepsUpAtFourPoints) {
         picks({{2, 4}, {drawn, 2}});  // the guitarist
         exactly([&] { practise(g); });
         EXPECT_EQ(str(r.practice[2], r.membertalent[2], r.tiredness), str(after, talent, 2));
-        EXPECT_EQ(memos(), talent == 4 ? better : Lines{});
-        ok_memos();
+        said(talent == 4 ? Lines{better} : Lines{});
     }
     r.membername[3] = "None";  // no practice offered to a band with an empty slot
     command6(g);
@@ -271,7 +254,7 @@ TEST_F(Training, PracticeStepsUpAtFourPoints) {
 
 TEST_F(Training, LessonsNeedAPickNameTheSubjectOfTheSlotAndCost75) {
     click(g, "main", "label13");
-    EXPECT_EQ(take(), Lines{testing::okbox("Please select a band member")});
+    EXPECT_EQ(take(), Lines{okbox("Please select a band member")});
     const char* offer[] = {"Ann Vox a Singing", "Bob Axe a Guitar", "Cy Low a Guitar",
                            "Di Kit a Drums"};
     for (int row = 0; row < 4; ++row)
@@ -293,8 +276,7 @@ TEST_F(Training, LessonsNeedAPickNameTheSubjectOfTheSlotAndCost75) {
 TEST_F(Training, HolidayRefusalsAndTheHolidayThatOnlyMovesTheDate) {
     r.cash = 299;
     click(g, "main", "holiday");
-    EXPECT_EQ(take(), Lines{memo("Dave", "We can't afford to book a holiday at this time.")});
-    ok_memos();
+    said({memo("Dave", "We can't afford to book a holiday at this time.")});
     r.cash = 300;
     no();
     click(g, "main", "holiday");
@@ -314,70 +296,53 @@ TEST_F(Training, HolidayRefusalsAndTheHolidayThatOnlyMovesTheDate) {
     EXPECT_EQ(r.gamedate, 37149.0);
 }
 
-const char* const kRadio[] = {
-    "The band interview went less well than expected",
-    "The band interview went OK, but i think we could do better next time.",
-    "The Interview went really well, the band seem very pleased!"};
-const char* const kCable[] = {"The bands appearance on a cable music show was quite poor.",
-                              "The band interview on a cable T.V show went o.k",
-                              "The bands appearance on a cable T.V show was fantastic!"};
+// Interviews from popularity 100: each member draws charisma (and, on cable, looks: one pick of
+// 2 a slot) in slot order; radio adds a last draw of 5 to 24. Exactly 20 and 60 say nothing.
+using Interviews = Office;
 
-class Interviews : public ::testing::Test, protected testing::TestGame {
-  protected:
-    void SetUp() override { new_game(); }
-    /// Takes up an invitation of `kind` from popularity 100 with the draws queued; expects
-    /// exactly those taken, the memo given (or none) and the popularity gained.
-    void expect(int kind, const char* text, int gain) {
-        r.interviewkind = static_cast<Integer>(kind), r.popularity = 100;
+TEST_F(Interviews, RadioAndCableScoresAndTheSilentTwentyAndSixty) {
+    const char* radio[] = {"The band interview went less well than expected",
+                           "The band interview went OK, but i think we could do better next time.",
+                           "The Interview went really well, the band seem very pleased!"};
+    const char* cable[] = {"The bands appearance on a cable music show was quite poor.",
+                           "The band interview on a cable T.V show went o.k",
+                           "The bands appearance on a cable T.V show was fantastic!"};
+    const struct {
+        int kind, charisma, attitude, ann_attitude, pick;
+        const char* looks;
+        int bonus;
+        const char* text;
+        int gain;
+    } cases[] = {
+        {1, 6, 4, 4, 4, "", 10, radio[1], 13},       // 4 * (3 + 1 + 6) + 10 + 5 = 55
+        {1, 1, 10, 10, 1, "", 0, radio[0], 2},       // 9, the least a radio interview can score
+        {1, 1, 10, 10, 1, "", 11, nullptr, 5},       // 20
+        {1, 1, 10, 10, 1, "", 12, radio[1], 5},      // 21
+        {1, 4, 1, 1, 4, "", 3, nullptr, 15},         // 36 + 16 + 8 = 60
+        {1, 4, 1, 1, 4, "", 4, radio[2], 15},        // 61
+        {2, 10, 7, 7, 1, "1111", 0, nullptr, 5},     // 4 * (1 + 1 + 3) = 20
+        {2, 10, 7, 7, 7, "2222", 0, cable[1], 12},   // 4 * (7 + 2 + 3) = 48
+        {0, 10, 7, 7, 1, "2111", 0, cable[1], 5},    // any kind but radio: 21
+        {3, 10, 7, 8, 1, "1111", 0, cable[0], 4},    // 19
+        {2, 10, 7, 6, 10, "2222", 0, cable[2], 15},  // 16 + 3 * 15 = 61
+    };
+    EXPECT_EQ(click(g, "main", "interview"), ClickResult::NotUsableNow);  // no invitation yet
+    for (const auto& c : cases) {
+        full_band({.charisma = c.charisma, .attitude = c.attitude, .looks = 2});
+        r.memberattitude[1] = static_cast<Integer>(c.ann_attitude);
+        for (int s = 0; s < 4; ++s) {
+            pick(c.pick, c.charisma);
+            if (c.kind != 1) pick(c.looks[s] - '0', 2);
+        }
+        if (c.kind == 1) pick(c.bonus + 1, 20);
+        r.interviewkind = static_cast<Integer>(c.kind), r.popularity = 100;
         g.forms.main.interview.enabled = true;
         exactly([&] { EXPECT_EQ(click(g, "main", "interview"), ClickResult::Done); });
-        EXPECT_EQ(memos(), text ? Lines{testing::memo("Mona", text)} : Lines{});
-        EXPECT_EQ(r.popularity, 100 + gain);
-        EXPECT_FALSE(g.forms.main.interview.enabled);
-        ok_memos();
+        said(c.text ? Lines{memo("Mona", c.text)} : Lines{});
+        EXPECT_EQ(r.popularity, 100 + c.gain) << c.kind << " " << c.gain;
+        EXPECT_EQ(click(g, "main", "interview"), ClickResult::NotUsableNow);
     }
-    /// Radio draws: each charisma roll Int(Rnd()*n) gives `drawn`, the bonus roll `bonus`.
-    void radio(int drawn, int n, int bonus) {
-        for (int s = 0; s < 4; ++s) pick(drawn + 1, n);
-        pick(bonus + 1, 20);
-    }
-};
-
-TEST_F(Interviews, RadioScoresAndTheSilentTwentyAndSixty) {
-    EXPECT_EQ(click(g, "main", "interview"), ClickResult::NotUsableNow);  // no invitation yet
-    full_band({.charisma = 6, .attitude = 4});
-    radio(3, 6, 10);  // 4 * (3 + 1 + 6) + 10 + 5 = 55
-    expect(1, kRadio[1], 13);
-    EXPECT_EQ(click(g, "main", "interview"), ClickResult::NotUsableNow);
-    full_band({.charisma = 1, .attitude = 10});  // 1 a member from charisma
-    radio(0, 1, 0);
-    expect(1, kRadio[0], 2);  // 9, the least a radio interview can score
-    radio(0, 1, 11);
-    expect(1, nullptr, 5);  // 20
-    radio(0, 1, 12);
-    expect(1, kRadio[1], 5);                    // 21
-    full_band({.charisma = 4, .attitude = 1});  // 9 a member from attitude
-    radio(3, 4, 3);
-    expect(1, nullptr, 15);  // 36 + 16 + 8 = 60
-    radio(3, 4, 4);
-    expect(1, kRadio[2], 15);  // 61
-}
-
-TEST_F(Interviews, CableTakesCharismaThenLooksPerMemberAndNoBonus) {
-    full_band({.charisma = 10, .attitude = 7, .looks = 2});
-    for (int s = 0; s < 4; ++s) picks({{1, 10}, {1, 2}});
-    expect(2, nullptr, 5);  // 4 * (1 + 1 + 3) = 20
-    for (int s = 0; s < 4; ++s) picks({{7, 10}, {2, 2}});
-    expect(2, kCable[1], 12);  // 4 * (7 + 2 + 3) = 48
-    for (int s = 0; s < 4; ++s) picks({{1, 10}, {s == 0 ? 2 : 1, 2}});
-    expect(0, kCable[1], 5);  // any kind but radio: 21
-    r.memberattitude[1] = 8;
-    for (int s = 0; s < 4; ++s) picks({{1, 10}, {1, 2}});
-    expect(3, kCable[0], 4);  // 19
-    r.memberattitude[1] = 6;
-    for (int s = 0; s < 4; ++s) picks({{10, 10}, {2, 2}});
-    expect(2, kCable[2], 15);  // 16 + 3 * 15 = 61
 }
 
 }  // namespace
-}  // namespace tourvane
+}  // namespace tourvane::testing

@@ -6,17 +6,12 @@
 #include "rules/music/bands.h"
 #include "rules/music/chart.h"
 #include "rules/music/singles.h"
-#include "temp_dir.h"
 #include "test_game.h"
 
-namespace tourvane {
+namespace tourvane::testing {
 namespace {
 
-using Bytes = std::vector<std::uint8_t>;
-using testing::Lines;
-using testing::str;
-
-class ChartStep : public testing::Office {
+class ChartStep : public Office {
   protected:
     void SetUp() override { calm_chart(); }
     void row(int i, int demand, int fame, int life, Long sales = 0) {
@@ -94,7 +89,7 @@ TEST_F(ChartStep, PlayerRowsStandStillAndRowTwentyIsARivalRow) {
 
 // The chart screen. Row i is "Band i" with "Title i" and sells i copies unless a test says
 // otherwise.
-class ChartScreen : public testing::Office {
+class ChartScreen : public Office {
   protected:
     void SetUp() override {
         EXPECT_EQ(click(g, "main", "secret"), ClickResult::NotUsableNow);  // no full week yet
@@ -193,9 +188,9 @@ bool rows_are_builtin(const Module1& r) {
 }
 
 TEST(LoadBands, FillsRowsPoolAndLifeFromTheWorkingDirectory) {
-    testing::TempDir dir;
+    TempDir dir;
     write_all("bands.dat", numbered_bands());
-    testing::TestGame t;  // start-up runs loadbands
+    TestGame t;  // start-up runs loadbands
     const Module1& r = t.r;
     for (int row = 20; row <= 70; ++row) {
         const int i = row - 20;
@@ -212,7 +207,7 @@ TEST(LoadBands, FillsRowsPoolAndLifeFromTheWorkingDirectory) {
 }
 
 TEST(LoadBands, MissingShortOrDamagedFilesFallBackToTheBuiltInCopy) {
-    testing::TempDir dir;
+    TempDir dir;
     ScriptedPort port;
     Game g(port);
     const std::vector<std::filesystem::path> here{"bands.dat"};
@@ -239,4 +234,4 @@ TEST(LoadBands, MissingShortOrDamagedFilesFallBackToTheBuiltInCopy) {
 }
 
 }  // namespace
-}  // namespace tourvane
+}  // namespace tourvane::testing

@@ -5,16 +5,11 @@
 #include "rules/gigs/booking.h"
 #include "rules/test_game.h"
 
-namespace tourvane {
+namespace tourvane::testing {
 namespace {
 
-using testing::Lines;
-using testing::okbox;
-using testing::Rows;
-using testing::str;
-
 /// A full, fit band whose members add nothing to a score, three songs, every venue open.
-class GigsTest : public testing::Office {
+class GigsTest : public Office {
   protected:
     void SetUp() override {
         full_band({.talent = 4, .looks = 4, .happy = 4});
@@ -80,7 +75,7 @@ TEST_F(GigsTest, SlotsAreWalkedInOrderThenTheSongsAreCounted) {
         if (c.vacant) r.membername[c.vacant] = "None";
         r.membersex[4] = c.sex4, r.songcount = c.text[0] == 'T' ? 2 : 3;
         click(g, "main", "command4");
-        EXPECT_EQ(memos(), Lines{testing::memo(c.text[0] == 'T' ? "Dave" : "Mona", c.text)});
+        EXPECT_EQ(memos(), Lines{memo(c.text[0] == 'T' ? "Dave" : "Mona", c.text)});
         EXPECT_FALSE(g.forms.gig.loaded);
         ok_memos();
     }
@@ -276,4 +271,4 @@ TEST_F(GigsTest, ReportOpensByScoreAndDrawAndAVeryBadGigHurtsOneMember) {
 }
 
 }  // namespace
-}  // namespace tourvane
+}  // namespace tourvane::testing

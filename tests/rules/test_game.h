@@ -4,6 +4,9 @@
 
 #include <gtest/gtest.h>
 
+#include <cstdint>
+#include <cstdlib>
+#include <filesystem>
 #include <initializer_list>
 #include <sstream>
 #include <string>
@@ -30,6 +33,22 @@ namespace tourvane::testing {
 
 using Lines = std::vector<Shown>;
 using Rows = std::vector<std::string>;
+using Bytes = std::vector<std::uint8_t>;
+
+/// A fresh, empty working directory for one test: the game reads and writes its files in the
+/// working directory, so each test gets its own and the old one comes back afterwards.
+struct TempDir {
+    std::filesystem::path old = std::filesystem::current_path(), path;
+    TempDir() {
+        std::string pattern = (std::filesystem::temp_directory_path() / "tourvane-XXXXXX").string();
+        std::filesystem::current_path(path = ::mkdtemp(pattern.data()));
+    }
+    ~TempDir() {
+        std::filesystem::current_path(old);
+        std::error_code ec;
+        std::filesystem::remove_all(path, ec);
+    }
+};
 
 /// The values written one after another with a blank between, to compare several at once.
 template <class... T>
@@ -162,6 +181,11 @@ class TestGame {
     /// Acknowledges every open memo.
     void ok_memos() {
         while (!g.memos.empty() && !g.ended) memo_ok(g);
+    }
+    /// Expects exactly these memos shown so far, then acknowledges them.
+    void said(const Lines& want) {
+        EXPECT_EQ(memos(), want);
+        ok_memos();
     }
 
     /// What the port showed so far, and forgets it.
