@@ -204,9 +204,12 @@ class TestGame {
     }
 };
 
-/// A fixture with the office up and a full, steady band.
-struct Office : ::testing::Test, TestGame {
-    Office() { new_game().full_band(); }
+/// Fixtures with the office up, with nobody hired and with a full, steady band.
+struct NewGame : ::testing::Test, TestGame {
+    NewGame() { new_game(); }
+};
+struct Office : NewGame {
+    Office() { full_band(); }
 };
 
 /// A memo, and the boxes as the port reports them.

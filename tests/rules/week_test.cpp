@@ -11,20 +11,12 @@
 namespace tourvane::testing {
 namespace {
 
-TEST(Office, TheLabelsOfUpdate) {
-    TestGame t;
-    t.new_game(" ", "Jo");  // one blank is a name
-    t.r.cash = -147, t.r.gamedate = 37135 + 122;
-    update(t.g);
-    const OfficeForm& f = t.g.forms.main;
-    EXPECT_EQ(str(f.txtname.caption, f.txtdate.caption, f.txtcash.caption),
-              "Jo's Office 01/01/2002 £ -147");
-}
+using Turn = NewGame;
 
 // An empty band pays no wages; its popularity of 0 is floored by the events before the decay.
 // A full band's wages of 1 each: equal to the cash they leave nothing, one more ends the game,
 // and nothing comes after the end's memo.
-TEST(Turn, PromotionPricesWagesAndTheEarlyEndsOfShortMoney) {
+TEST_F(Turn, PromotionPricesWagesAndTheEarlyEndsOfShortMoney) {
     const std::string none = "We can't afford any promotion this week.";
     const std::string tight =
         "Sorry, Boss. Cash is a bit tight this week so we can't afford any promotion.";
@@ -62,38 +54,43 @@ TEST(Turn, PromotionPricesWagesAndTheEarlyEndsOfShortMoney) {
     }
 }
 
-TEST(Turn, DateVenuesResetsAndTheSongClock) {
+TEST_F(Turn, LabelsDateVenuesResetsAndTheSongClock) {
     TestGame t;
-    t.new_game();
+    t.new_game(" ", "Jo");  // one blank is a name
+    t.r.cash = -147, t.r.gamedate = 37135 + 122;
+    update(t.g);
+    OfficeForm& f = t.g.forms.main;
+    EXPECT_EQ(str(f.txtname.caption, f.txtdate.caption, f.txtcash.caption),
+              "Jo's Office 01/01/2002 £ -147");
+    t.r.cash = 3000, t.r.gamedate = 37135;
     for (int v : {1, 2, 1, 2, 1}) t.pick(v, 2);  // venues 1, 3 and 5 open
-    t.r.interviewkind = 2, t.g.forms.main.interview.enabled = true, t.g.main.applicantsseen = 6;
+    t.r.interviewkind = 2, f.interview.enabled = true, t.g.main.applicantsseen = 6;
     t.r.tiredness = t.r.memberill[2] = 1;  // counted down in every slot, vacant or not
     command6(t.g);
-    const Module1& r = t.r;
-    EXPECT_EQ(str(r.venueopen[1], r.venueopen[2], r.venueopen[3], r.venueopen[4], r.venueopen[5],
-                  r.interviewkind, t.g.forms.main.interview.enabled, t.g.main.applicantsseen,
-                  r.tiredness, r.memberill[2], r.songweeks, t.g.forms.main.txtdate.caption),
+    const Module1& q = t.r;
+    EXPECT_EQ(str(q.venueopen[1], q.venueopen[2], q.venueopen[3], q.venueopen[4], q.venueopen[5],
+                  q.interviewkind, f.interview.enabled, t.g.main.applicantsseen, q.tiredness,
+                  q.memberill[2], q.songweeks, f.txtdate.caption),
               "-1 0 -1 0 -1 0 0 0 0 0 10 08/09/2001");  // the song clock stands at 10
     t.r.songweeks = 5;
     command6(t.g);
     EXPECT_EQ(t.r.songweeks, 4);
 }
 
-TEST(Turn, PracticeQuestionsAndTheUnhappyMember) {
-    TestGame t;
-    t.new_game().full_band();
-    t.r.memberhappy[3] = 1;
-    t.yes();
-    t.picks({{2, 4}, {1, 2}});  // the guitarist gains one point
-    command6(t.g);
-    EXPECT_EQ(str(t.r.practice[2], t.r.tiredness), "1 1");  // 2 from practice, 1 off at once
-    EXPECT_EQ(t.memos().front(), memo("Steven", "Cy Low is unhappy."));
-    t.ok_memos();
-    t.yes();
-    t.no();  // tired: not this week
-    command6(t.g);
-    EXPECT_EQ(t.take()[1], yesno("The band is tired, make them practise anyway?", false));
-    EXPECT_EQ(str(t.r.practice[2] + t.r.tiredness, t.r.membername[3]), "1 Cy Low");
+TEST_F(Turn, PracticeQuestionsAndTheUnhappyMember) {
+    full_band();
+    r.memberhappy[3] = 1;
+    yes();
+    picks({{2, 4}, {1, 2}});  // the guitarist gains one point
+    command6(g);
+    EXPECT_EQ(str(r.practice[2], r.tiredness), "1 1");  // 2 from practice, 1 off at once
+    EXPECT_EQ(memos().front(), memo("Steven", "Cy Low is unhappy."));
+    ok_memos();
+    yes();
+    no();  // tired: not this week
+    command6(g);
+    EXPECT_EQ(take()[1], yesno("The band is tired, make them practise anyway?", false));
+    EXPECT_EQ(str(r.practice[2] + r.tiredness, r.membername[3]), "1 Cy Low");
 }
 
 class Events : public Office {
@@ -207,47 +204,47 @@ TEST_F(Events, InvitationsNeedMoreThanTwoHundred) {
     EXPECT_EQ(click(g, "main", "interview"), ClickResult::NotUsableNow);  // a memo is open
 }
 
-TEST(Reasons, EachDisabledControlSaysWhyFromTheGame) {
+using Reasons = NewGame;
+
+TEST_F(Reasons, EachDisabledControlSaysWhyFromTheGame) {
     // One game, prepared step by step; each row's step runs before its control is asked.
-    TestGame t;
-    t.new_game();
     const std::string none = "No applicants are left this week. More come after Next Week.";
     const std::string apply = "APPLY to the venue first: the tracks open once it takes the band.";
     const std::string unknown =
         "No invitation this week: the band must be better known to be invited.";
     const std::string full = "The band is full: there is no place for an applicant.";
     auto gig = [&] {
-        t.ok_memos(), t.songs({10, 20, 30}), t.r.venueopen = {0, -1, 0, -1, -1, -1};
-        click(t.g, "main", "command4");
+        ok_memos(), songs({10, 20, 30}), r.venueopen = {0, -1, 0, -1, -1, -1};
+        click(g, "main", "command4");
     };
+    const std::string chart = "The chart comes out once a week has been played with Next Week.";
     const struct {
         std::function<void()> step;
-        std::string control, reason;  // "form.control" or "form.control index"
+        const char *form, *control;
+        std::string reason;
+        int index = -1;
     } rows[] = {
-        {{}, "main.secret", "The chart comes out once a week has been played with Next Week."},
-        {[&] { t.r.popularity = 200; }, "main.interview", unknown},
-        {{}, "main.Command2", "Pick a member in the band list first."},
-        {[&] { t.r.popularity = 201; }, "main.interview", "No invitation this week."},
-        {[&] { t.r.interviewkind = 2; }, "main.interview",
+        {{}, "main", "secret", chart},
+        {[&] { r.popularity = 200; }, "main", "interview", unknown},
+        {{}, "main", "Command2", "Pick a member in the band list first."},
+        {[&] { r.popularity = 201; }, "main", "interview", "No invitation this week."},
+        {[&] { r.interviewkind = 2; }, "main", "interview",
          "The band has given this week's interview."},
-        {[&] { t.g.main.applicantsseen = 3, click(t.g, "main", "dismiss"); }, "main.hire", none},
-        {{}, "main.dismiss", none},
-        {[&] { t.full_band(), update(t.g); }, "main.hire", full},
-        {gig, "gig.location 1", "The Queens Head is closed this week."},
-        {{}, "gig.location 0", ""},
-        {{}, "gig.command1", "Choose a venue first."},
-        {{}, "gig.Combo1", "Choose a venue and APPLY first."},
-        {[&] { click(t.g, "gig", "location", 0); }, "gig.command4", apply},
-        {{}, "gig.command3", apply},
+        {[&] { g.main.applicantsseen = 3, click(g, "main", "dismiss"); }, "main", "hire", none},
+        {{}, "main", "dismiss", none},
+        {[&] { full_band(), update(g); }, "main", "hire", full},
+        {gig, "gig", "location", "The Queens Head is closed this week.", 1},
+        {{}, "gig", "location", "", 0},
+        {{}, "gig", "command1", "Choose a venue first."},
+        {{}, "gig", "Combo1", "Choose a venue and APPLY first."},
+        {[&] { click(g, "gig", "location", 0); }, "gig", "command4", apply},
+        {{}, "gig", "command3", apply},
     };
     for (const auto& row : rows) {
         if (row.step) row.step();
-        const auto dot = row.control.find('.'), blank = row.control.find(' ');
-        const std::string form = row.control.substr(0, dot);
-        const Control* c = find_control(t.g, form, row.control.substr(dot + 1, blank - dot - 1),
-                                        blank == std::string::npos ? -1 : row.control.back() - '0');
+        const Control* c = find_control(g, row.form, row.control, row.index);
         ASSERT_TRUE(c) << row.control;
-        EXPECT_EQ(disabled_reason(t.g, *find_form(t.g, form), *c), row.reason) << row.control;
+        EXPECT_EQ(disabled_reason(g, *find_form(g, row.form), *c), row.reason) << row.control;
     }
 }
 
