@@ -1,10 +1,8 @@
 // The music chart: the rival rows' weekly step, the chart screen's ranking and list, and the
 // rival bands file with where it is found and what it sets up.
-#include <fstream>
-
+#include "rules/music/chart.h"
 #include "rules/files/record_file.h"
 #include "rules/music/bands.h"
-#include "rules/music/chart.h"
 #include "rules/music/singles.h"
 #include "test_game.h"
 
@@ -158,46 +156,22 @@ TEST_F(ChartScreen, TiesGoToTheEarlierRowWhoseSalesRise) {
 Bytes numbered_bands() {
     RecordWriter w;
     for (int i = 0; i < kBandEntries; ++i) {
-        w.put_string("Band " + std::to_string(i));
-        w.put_integer(static_cast<Integer>(i));
-        w.put_string("Song " + std::to_string(i));
-        w.put_integer(static_cast<Integer>(30 + i));
-        w.put_integer(static_cast<Integer>(100 + i));
+        w.put_string(str("Band", i)), w.put_integer(Integer(i)), w.put_string(str("Song", i));
+        w.put_integer(Integer(30 + i)), w.put_integer(Integer(100 + i));
     }
     return w.take();
 }
 
-void write_all(const std::filesystem::path& p, const Bytes& b) {
-    std::ofstream(p, std::ios::binary)
-        .write(reinterpret_cast<const char*>(b.data()), static_cast<std::streamsize>(b.size()));
-}
-
-Bytes read_all(const std::filesystem::path& p) {
-    std::ifstream in(p, std::ios::binary);
-    return Bytes(std::istreambuf_iterator<char>(in), {});
-}
-
-/// True when rows 20 to 70 hold the built-in records.
-bool rows_are_builtin(const Module1& r) {
-    const auto table = parse_bands(builtin_bands());
-    for (int row = kFirstRivalRow; row <= kChartRows; ++row) {
-        const RivalEntry& e = (*table)[row - kFirstRivalRow];
-        if (r.chartband[row] != e.band || r.chartdemand[row] != e.demand) return false;
-    }
-    return true;
-}
-
 TEST(LoadBands, FillsRowsPoolAndLifeFromTheWorkingDirectory) {
     TempDir dir;
-    write_all("bands.dat", numbered_bands());
+    std::string why;
+    ASSERT_TRUE(replace_file("bands.dat", numbered_bands(), why));
     TestGame t;  // start-up runs loadbands
     const Module1& r = t.r;
-    for (int row = 20; row <= 70; ++row) {
-        const int i = row - 20;
-        EXPECT_EQ(r.chartband[row] + "/" + r.charttitle[row],
-                  "Band " + std::to_string(i) + "/Song " + std::to_string(i));
-        EXPECT_EQ(r.chartfame[row] + r.chartquality[row] + r.chartdemand[row], 130 + 3 * i);
-        EXPECT_EQ(r.chartlife[row], (30 + i) * 4 + i);
+    for (int row = 20, i = 0; row <= 70; ++row, ++i) {
+        EXPECT_EQ(str(r.chartband[row], r.charttitle[row], r.chartfame[row], r.chartquality[row],
+                      r.chartdemand[row], r.chartlife[row]),
+                  str("Band", i, "Song", i, i, 30 + i, 100 + i, (30 + i) * 4 + i));
     }
     EXPECT_EQ(r.rivalname[0] + r.rivalname[50], "Band 0Band 50");
     EXPECT_EQ(r.rivalfame[50], 50);
@@ -209,25 +183,25 @@ TEST(LoadBands, FillsRowsPoolAndLifeFromTheWorkingDirectory) {
 TEST(LoadBands, MissingShortOrDamagedFilesFallBackToTheBuiltInCopy) {
     TempDir dir;
     ScriptedPort port;
-    Game g(port);
+    Game g(port), builtin(port);
+    loadbands_from(builtin, {});
+    std::string why;
     const std::vector<std::filesystem::path> here{"bands.dat"};
-    EXPECT_FALSE(loadbands_from(g, here));
-    EXPECT_TRUE(rows_are_builtin(g.rec));
-    EXPECT_FALSE(std::filesystem::exists("bands.dat"));  // nothing is created
-    Bytes short_file = numbered_bands();
+    Bytes short_file = numbered_bands(), damaged = numbered_bands();
     short_file.pop_back();
-    write_all("bands.dat", short_file);
-    EXPECT_FALSE(loadbands_from(g, here));
-    EXPECT_TRUE(rows_are_builtin(g.rec));
-    Bytes damaged = numbered_bands();
     damaged[128 * 5 * 30] = 127;  // the band of entry 30 claims 127 bytes
-    write_all("bands.dat", damaged);
-    EXPECT_FALSE(loadbands_from(g, here));
-    EXPECT_TRUE(rows_are_builtin(g.rec));
-    EXPECT_EQ(read_all("bands.dat"), damaged);  // only read, never written
+    for (const Bytes& file : {Bytes{}, short_file, damaged}) {  // missing, short, damaged
+        ASSERT_TRUE(file.empty() || replace_file("bands.dat", file, why)) << why;
+        EXPECT_FALSE(loadbands_from(g, here));
+        EXPECT_TRUE(g.rec.chartband == builtin.rec.chartband);
+        EXPECT_TRUE(g.rec.chartdemand == builtin.rec.chartdemand);
+        // Only read, never written; and nothing is created.
+        EXPECT_EQ(read_file("bands.dat", 1 << 20),
+                  file.empty() ? std::nullopt : std::optional(file));
+    }
     // A whole file further along the search path is taken before the built-in copy.
     std::filesystem::create_directory("share");
-    write_all("share/bands.dat", numbered_bands());
+    ASSERT_TRUE(replace_file("share/bands.dat", numbered_bands(), why));
     EXPECT_EQ(loadbands_from(g, {"bands.dat", "missing/bands.dat", "share/bands.dat"}),
               std::filesystem::path("share/bands.dat"));
     EXPECT_EQ(g.rec.chartband[70], "Band 50");

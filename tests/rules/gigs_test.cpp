@@ -19,9 +19,8 @@ class GigsTest : public Office {
         r.venueopen = {0, -1, -1, -1, -1, -1};
         r.popularity = 100;
     }
-    void set_qualities(std::initializer_list<int> q) {
-        int s = 1;
-        for (int v : q) r.songquality[s++] = static_cast<Integer>(v);
+    void set_qualities(const std::vector<int>& q) {
+        for (std::size_t s = 0; s < q.size(); ++s) r.songquality[s + 1] = Integer(q[s]);
     }
     void open_and_book(int location) {
         ASSERT_EQ(click(g, "main", "command4"), ClickResult::Done);
@@ -47,9 +46,8 @@ class GigsTest : public Office {
         g.forms.main.command4.enabled = true;
     }
     Lines boxes() const {
-        Lines out;
-        for (const Shown& s : lines)
-            if (s.kind == Shown::Kind::Box) out.push_back(s);
+        Lines out = lines;
+        std::erase_if(out, [](const Shown& s) { return s.kind != Shown::Kind::Box; });
         return out;
     }
 };
@@ -164,13 +162,12 @@ TEST_F(GigsTest, WorkedExampleFromBookingToOffice) {
 
 TEST_F(GigsTest, MemberValuesCountByTheirThresholds) {
     // One member differs from the neutral 4/4/4 band each time: {talent, looks, happy, score}.
-    const int cases[][4] = {{4, 4, 3, 59}, {4, 4, 4, 60}, {4, 4, 6, 60}, {4, 4, 7, 67},
-                            {6, 4, 4, 66}, {4, 6, 4, 60}, {5, 4, 4, 60}, {3, 4, 4, 59},
-                            {4, 7, 4, 67}, {0, 4, 4, 56}, {4, 4, -1, 55}};
+    const Integer cases[][4] = {{4, 4, 3, 59}, {4, 4, 4, 60}, {4, 4, 6, 60}, {4, 4, 7, 67},
+                                {6, 4, 4, 66}, {4, 6, 4, 60}, {5, 4, 4, 60}, {3, 4, 4, 59},
+                                {4, 7, 4, 67}, {0, 4, 4, 56}, {4, 4, -1, 55}};
     for (const auto& [talent, looks, happy, score] : cases) {
-        r.membertalent[3] = static_cast<Integer>(talent);
-        r.memberlooks[3] = static_cast<Integer>(looks);
-        r.memberhappy[3] = static_cast<Integer>(happy), r.popularity = 100;
+        r.membertalent[3] = talent, r.memberlooks[3] = looks, r.memberhappy[3] = happy;
+        r.popularity = 100;
         play();
         EXPECT_EQ(str(g.gig.gigscore, r.popularity), str(score, 100 + score / 4))
             << talent << "/" << looks << "/" << happy;
@@ -189,8 +186,7 @@ TEST_F(GigsTest, SetListScoring) {
                  {{50, 10, 30, 40, 40}, {2, 4, 3}, 0, 110, 5}};
     for (const auto& c : cases) {
         r.songcount = static_cast<Integer>(c.quality.size());
-        for (std::size_t s = 0; s < c.quality.size(); ++s)
-            r.songquality[s + 1] = static_cast<Integer>(c.quality[s]);
+        set_qualities(c.quality);
         open_and_book(0);
         for (int row : c.rows) click(g, "gig", "Combo1", row);
         if (c.repeat) r.setlist[2] = static_cast<Integer>(c.repeat);

@@ -105,11 +105,9 @@ class TestGame {
 
     /// Slot s as "name|sex|age talent charisma attitude looks creativity happy friction".
     std::string member(int s) const {
-        std::string out = r.membername[s] + "|" + r.membersex[s] + "|";
-        for (int v : {r.memberage[s], r.membertalent[s], r.membercharisma[s], r.memberattitude[s],
-                      r.memberlooks[s], r.membercreativity[s], r.memberhappy[s]})
-            out += std::to_string(v) + " ";
-        return out + std::to_string(r.memberfriction[s]);
+        return r.membername[s] + "|" + r.membersex[s] + "|" +
+               str(r.memberage[s], r.membertalent[s], r.membercharisma[s], r.memberattitude[s],
+                   r.memberlooks[s], r.membercreativity[s], r.memberhappy[s], r.memberfriction[s]);
     }
     /// `memberhappy` of slots 1 to 4, as "a b c d"; and setting them.
     std::string happiness() const {
@@ -189,17 +187,12 @@ class TestGame {
     }
 
     /// What the port showed so far, and forgets it.
-    Lines take() {
-        Lines out;
-        out.swap(lines);
-        return out;
-    }
+    Lines take() { return std::exchange(lines, {}); }
 
     /// The memos shown so far, and forgets all that was shown.
     Lines memos() {
-        Lines out;
-        for (const Shown& s : take())
-            if (s.kind == Shown::Kind::Memo) out.push_back(s);
+        Lines out = take();
+        std::erase_if(out, [](const Shown& s) { return s.kind != Shown::Kind::Memo; });
         return out;
     }
 };
