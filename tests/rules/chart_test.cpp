@@ -168,11 +168,10 @@ TEST(LoadBands, FillsRowsPoolAndLifeFromTheWorkingDirectory) {
     ASSERT_TRUE(replace_file("bands.dat", numbered_bands(), why));
     TestGame t;  // start-up runs loadbands
     const Module1& r = t.r;
-    for (int row = 20, i = 0; row <= 70; ++row, ++i) {
+    for (int row = 20, i = 0; row <= 70; ++row, ++i)
         EXPECT_EQ(str(r.chartband[row], r.charttitle[row], r.chartfame[row], r.chartquality[row],
                       r.chartdemand[row], r.chartlife[row]),
                   str("Band", i, "Song", i, i, 30 + i, 100 + i, (30 + i) * 4 + i));
-    }
     EXPECT_EQ(r.rivalname[0] + r.rivalname[50], "Band 0Band 50");
     EXPECT_EQ(r.rivalfame[50], 50);
     for (int i = 51; i <= 60; ++i) EXPECT_EQ(r.rivalname[i] + std::to_string(r.rivalfame[i]), "0");

@@ -18,10 +18,6 @@
 namespace tourvane::testing {
 namespace {
 
-Shown critical(std::string_view text) {
-    return okbox(text, true);
-}
-
 /// The byte offset of record n (counted from 1).
 std::size_t at(int record) {
     return static_cast<std::size_t>(record - 1) * 128;
@@ -134,8 +130,8 @@ TEST_F(InTempDir, FailingSaveKeepsTheOldSaveAndTheGame) {
     std::filesystem::remove("tvsave2.tvs.new");
     std::filesystem::create_symlink("/dev/full", "tvsave2.tvs.new");  // the disk fills up
     click(t.g, "savefrm", "save");
-    EXPECT_EQ(t.take(), (Lines{critical(cannot + "Is a directory."),
-                               critical(cannot + "No space left on device.")}));
+    EXPECT_EQ(t.take(), (Lines{okbox(cannot + "Is a directory.", true),
+                               okbox(cannot + "No space left on device.", true)}));
     EXPECT_FALSE(std::filesystem::is_symlink("tvsave2.tvs.new"));
     EXPECT_EQ(read_file("tvsave2.tvs", 1 << 20), old_save);
     EXPECT_TRUE(t.g.forms.savefrm.visible);  // another slot can be tried
@@ -186,11 +182,11 @@ TEST(NewGameNames, RefusesNamesASaveCannotHold) {
     TestGame t;
     t.port.queue_input(std::string(127, 'a'));
     click(t.g, "Form1", "New");
-    EXPECT_EQ(t.take().back(), critical("Names can be at most 126 characters."));
+    EXPECT_EQ(t.take().back(), okbox("Names can be at most 126 characters.", true));
     t.port.queue_input("Bånd");
     t.port.queue_input("Søren 日本");
     click(t.g, "Form1", "New");
-    EXPECT_EQ(t.take().back(), critical("Names can only use Western European letters."));
+    EXPECT_EQ(t.take().back(), okbox("Names can only use Western European letters.", true));
     EXPECT_EQ(t.r.bandname + "|" + t.r.playername, "Bånd|");
     EXPECT_TRUE(t.g.forms.Form1.visible);
     t.new_game("Bånd", std::string(63, 'a') + "é" + std::string(62, 'b'));  // 126 letters fit
