@@ -111,49 +111,44 @@ TEST(SaveReading, CraftedFileIsTakenFieldByFieldAndDamagedOnesAreRefused) {
     }
 }
 
-struct InTempDir : ::testing::Test {
-    TempDir dir;
-};
+/// A game started up in a fresh working directory, on the title screen.
+struct InTempDir : ::testing::Test, TempDir, TestGame {};
 
 TEST_F(InTempDir, FailingSaveKeepsTheOldSaveAndTheGame) {
-    TestGame t;
-    t.new_game();
+    new_game();
     std::string why;
-    ASSERT_TRUE(write_save(t.r, slot_file(2), why));
+    ASSERT_TRUE(write_save(r, slot_file(2), why));
     const auto old_save = read_file("tvsave2.tvs", 1 << 20);
-    t.r.bandname = "New Band";
-    click(t.g, "main", "command5");
-    click(t.g, "savefrm", "saveslot", 2);
+    r.bandname = "New Band";
+    click(g, "main", "command5");
+    click(g, "savefrm", "saveslot", 2);
     const std::string cannot = "The game could not be saved in slot 3 (tvsave2.tvs): ";
     std::filesystem::create_directory("tvsave2.tvs.new");  // the new file can't be made
-    click(t.g, "savefrm", "save");
+    click(g, "savefrm", "save");
     std::filesystem::remove("tvsave2.tvs.new");
     std::filesystem::create_symlink("/dev/full", "tvsave2.tvs.new");  // the disk fills up
-    click(t.g, "savefrm", "save");
-    EXPECT_EQ(t.take(), (Lines{okbox(cannot + "Is a directory.", true),
-                               okbox(cannot + "No space left on device.", true)}));
+    click(g, "savefrm", "save");
+    EXPECT_EQ(take(), (Lines{okbox(cannot + "Is a directory.", true),
+                             okbox(cannot + "No space left on device.", true)}));
     EXPECT_FALSE(std::filesystem::is_symlink("tvsave2.tvs.new"));
     EXPECT_EQ(read_file("tvsave2.tvs", 1 << 20), old_save);
-    EXPECT_TRUE(t.g.forms.savefrm.visible);  // another slot can be tried
+    EXPECT_TRUE(g.forms.savefrm.visible);  // another slot can be tried
 }
 
 // The office's save (the box, and the load, are in the career scenario) and a load from the
 // title screen in the next run: captions, what each slot holds, the back button, and what the
 // load refreshes (the lists are checked after every click by the soak).
 TEST_F(InTempDir, SaveFromTheOfficeAndALoadFromTheTitleInTheNextRun) {
-    {
-        TestGame first;
-        first.new_game().r.cash = 1234;
-        std::ofstream(slot_file(1)).flush();            // empty, as a slot's first start leaves it
-        std::ofstream(slot_file(3)) << "\xC8\x00oops";  // a name longer than any record holds
-        click(first.g, "main", "command5");
-        const SaveForm& f = first.g.forms.savefrm;
-        EXPECT_TRUE(f.save.visible && f.saveslot[0].value && first.g.forms.main.visible);
-        click(first.g, "savefrm", "saveslot", 2);
-        click(first.g, "savefrm", "save");
-        click(first.g, "main", "command5");  // captions don't follow saves made in this run...
-        EXPECT_EQ(str(f.loaded, f.saveslot[2].caption), "1 GAME SLOT 1");
-    }
+    new_game().r.cash = 1234;
+    std::ofstream(slot_file(1)).flush();            // empty, as a slot's first start leaves it
+    std::ofstream(slot_file(3)) << "\xC8\x00oops";  // a name longer than any record holds
+    click(g, "main", "command5");
+    EXPECT_TRUE(g.forms.savefrm.save.visible && g.forms.savefrm.saveslot[0].value &&
+                g.forms.main.visible);
+    click(g, "savefrm", "saveslot", 2);
+    click(g, "savefrm", "save");
+    click(g, "main", "command5");  // captions don't follow saves made in this run...
+    EXPECT_EQ(str(g.forms.savefrm.loaded, g.forms.savefrm.saveslot[2].caption), "1 GAME SLOT 1");
     TestGame t;              // ...and show the band from the next start on
     t.r.singlehype[1] = 55;  // not in a save: the running value stays
     click(t.g, "Form1", "load");
@@ -172,25 +167,23 @@ TEST_F(InTempDir, SaveFromTheOfficeAndALoadFromTheTitleInTheNextRun) {
     EXPECT_EQ(t.r.cash, 3000);  // the running game is untouched
     click(t.g, "savefrm", "saveslot", 2);
     click(t.g, "savefrm", "load");
-    const OfficeForm& office = t.g.forms.main;
-    EXPECT_EQ(str(t.g.forms.Form1.loaded, f.loaded, office.visible, t.r.singlehype[1],
-                  office.txtcash.caption),
+    EXPECT_EQ(str(t.g.forms.Form1.loaded, f.loaded, t.g.forms.main.visible, t.r.singlehype[1],
+                  t.g.forms.main.txtcash.caption),
               "0 0 1 55 £ 1234");
 }
 
-TEST(NewGameNames, RefusesNamesASaveCannotHold) {
-    TestGame t;
-    t.port.queue_input(std::string(127, 'a'));
-    click(t.g, "Form1", "New");
-    EXPECT_EQ(t.take().back(), okbox("Names can be at most 126 characters.", true));
-    t.port.queue_input("Bånd");
-    t.port.queue_input("Søren 日本");
-    click(t.g, "Form1", "New");
-    EXPECT_EQ(t.take().back(), okbox("Names can only use Western European letters.", true));
-    EXPECT_EQ(t.r.bandname + "|" + t.r.playername, "Bånd|");
-    EXPECT_TRUE(t.g.forms.Form1.visible);
-    t.new_game("Bånd", std::string(63, 'a') + "é" + std::string(62, 'b'));  // 126 letters fit
-    EXPECT_TRUE(t.g.forms.main.visible);
+TEST_F(InTempDir, NewGameRefusesNamesASaveCannotHold) {
+    port.queue_input(std::string(127, 'a'));
+    click(g, "Form1", "New");
+    EXPECT_EQ(take().back(), okbox("Names can be at most 126 characters.", true));
+    port.queue_input("Bånd");
+    port.queue_input("Søren 日本");
+    click(g, "Form1", "New");
+    EXPECT_EQ(take().back(), okbox("Names can only use Western European letters.", true));
+    EXPECT_EQ(r.bandname + "|" + r.playername, "Bånd|");
+    EXPECT_TRUE(g.forms.Form1.visible);
+    new_game("Bånd", std::string(63, 'a') + "é" + std::string(62, 'b'));  // 126 letters fit
+    EXPECT_TRUE(g.forms.main.visible);
 }
 
 /// Each sample as "days-since-start cash popularity stretch;".
@@ -201,34 +194,32 @@ std::string samples(const std::vector<WeekSample>& weeks) {
     return out;
 }
 
-TEST(Diary, ALoadStartsANewStretchAndADamagedOrForeignHistoryIsLeftOut) {
-    TempDir dir;
-    TestGame t;
-    t.new_game();
+TEST_F(InTempDir, ALoadStartsANewStretchAndADamagedOrForeignHistoryIsLeftOut) {
+    new_game();
     auto week_and_save = [&](int slot) {
-        ASSERT_EQ(click(t.g, "main", "command6"), ClickResult::Done);
-        t.ok_memos();
-        click(t.g, "main", "command5");
-        click(t.g, "savefrm", "saveslot", slot);
-        click(t.g, "savefrm", "save");
+        ASSERT_EQ(click(g, "main", "command6"), ClickResult::Done);
+        ok_memos();
+        click(g, "main", "command5");
+        click(g, "savefrm", "saveslot", slot);
+        click(g, "savefrm", "save");
     };
     week_and_save(0);
-    t.r.cash = 77;
+    r.cash = 77;
     week_and_save(1);
-    EXPECT_EQ(samples(t.g.history), "7 3000 -1 0;14 77 -1 0;");
-    EXPECT_EQ(samples(t.g.segments), "0 3000 0 0;");
-    click(t.g, "main", "command5");
-    click(t.g, "savefrm", "saveslot", 0);
-    click(t.g, "savefrm", "load");
-    EXPECT_EQ(samples(t.g.segments), "0 3000 0 0;7 3000 -1 1;");
+    EXPECT_EQ(samples(g.history), "7 3000 -1 0;14 77 -1 0;");
+    EXPECT_EQ(samples(g.segments), "0 3000 0 0;");
+    click(g, "main", "command5");
+    click(g, "savefrm", "saveslot", 0);
+    click(g, "savefrm", "load");
+    EXPECT_EQ(samples(g.segments), "0 3000 0 0;7 3000 -1 1;");
     week_and_save(2);
-    EXPECT_EQ(samples(t.g.history), "7 3000 -1 0;14 3000 -1 1;");
+    EXPECT_EQ(samples(g.history), "7 3000 -1 0;14 3000 -1 1;");
 
     // Damaged, cut short, foreign, another save's, or missing: the load works, with no history.
     const auto good = read_file(history_file(0), 1 << 20).value();
-    std::vector<std::vector<std::uint8_t>> bad{{good.begin(), good.end() - 1},
-                                               {'M', 'Z', 0, 0},
-                                               read_file(history_file(1), 1 << 20).value()};
+    std::vector<Bytes> bad{{good.begin(), good.end() - 1},
+                           {'M', 'Z', 0, 0},
+                           read_file(history_file(1), 1 << 20).value()};
     bad.push_back(good), bad.back()[19] ^= 0x40;              // a diary longer than the file
     bad.push_back(good), bad.back()[good.size() - 4] = 0x7f;  // a stretch out of order
     bad.push_back({});                                        // none
