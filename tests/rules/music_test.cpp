@@ -22,7 +22,7 @@ class Songs : public Office {
     }
 };
 
-TEST_F(Songs, RefusalsComeInOrderAndChangeNothing) {
+TEST_F(Songs, RefusalsComeInOrderAndChangeNothingThenTheSongStarts) {
     const Lines limit{okbox("You have reached the limit of 20 songs!")};
     r.membername[2] = r.membername[4] = "None", r.songweeks = 5, r.songcount = 20;
     draws({0.5});  // must stay undrawn
@@ -35,9 +35,8 @@ TEST_F(Songs, RefusalsComeInOrderAndChangeNothing) {
     r.songcount = 20;
     EXPECT_EQ(record(), limit);
     EXPECT_EQ(str(r.songweeks, g.rnd.queued_left()), "10 1");
-}
-
-TEST_F(Songs, RestedBandStartsAtOnceTiredBandIsAskedAndYesCostsHappiness) {
+    // A rested band starts at once; a tired band is asked, and Yes costs happiness.
+    g.rnd.clear_queue(), r.songcount = 3;
     for (int k : {1, 4}) {
         r.songweeks = 10;
         pick(k, 4);
@@ -117,7 +116,7 @@ class Label : public Office {
     }
 };
 
-TEST_F(Label, SendingADemo) {
+TEST_F(Label, SendingADemoAndTheVerdictTable) {
     EXPECT_EQ(send(),
               Lines{memo("Mona", "Select a song from the list to send to the record company.")});
     click(g, "main", "songlist", 0);
@@ -126,9 +125,6 @@ TEST_F(Label, SendingADemo) {
     g.main.selectedsong = 0;
     EXPECT_EQ(send(), Lines{memo("Dave", "We have already sent a Demo Tape, Boss.")});
     EXPECT_EQ(g.main.demosent, -1);
-}
-
-TEST_F(Label, VerdictTable) {
     const std::string label = "The record label ";
     const std::string ok = label + "thought the song was ok but not what they are looking for.";
     const std::string liked = label + "liked your song but felt it didn't meet their needs.";
@@ -212,7 +208,7 @@ class Singles : public Office {
     Shown offer(bool yes) { return yesno("Do you want to release this song as a single?", yes); }
 };
 
-TEST_F(Singles, ReleaseTakes1500AndSetsDemand) {
+TEST_F(Singles, ReleaseTakes1500AndSetsDemandThenAFirstWeekUnderHighPromotion) {
     r.cash = 1499;
     yes();
     EXPECT_EQ(dbl(0),
@@ -225,6 +221,11 @@ TEST_F(Singles, ReleaseTakes1500AndSetsDemand) {
     // Demand 30 * 4 + 1000; the chart row shows the single from its first week on.
     EXPECT_EQ(single(1), "0 1120 0 / 0 0");
     EXPECT_EQ(str(r.released[1], g.forms.main.txtcash.caption), "-1 £ 0");
+    r.cash = 1500;  // then a week of High promotion
+    click(g, "main", "promote", 3);
+    EXPECT_EQ(week({{20, 20}, {100, 100}, {1, 2}}).at(1), okbox("£39"));  // 78 + 20 copies
+    EXPECT_EQ(single(1), "8 1020 98 The Wasps/Song 1 98 0");
+    EXPECT_EQ(str(r.cash, r.popularity), str(1500 - 400 - 4 + 39, 1004));
 }
 
 TEST_F(Singles, RoyaltiesAreTwoFifthsOfTheSalesWithABoxForEverySingle) {
@@ -243,16 +244,6 @@ TEST_F(Singles, RoyaltiesAreTwoFifthsOfTheSalesWithABoxForEverySingle) {
     EXPECT_EQ(single(2), "0 0 3 The Wasps/Song 2 3 14");
     EXPECT_EQ(single(3), "100 2 25 The Wasps/Song 3 25 21");
     EXPECT_EQ(single(4), "0 0 4 The Wasps/Song 4 4 28");
-}
-
-// A quality 30 single released at 1000 popularity, then a week of High promotion.
-TEST_F(Singles, FirstWeekOfASingleUnderHighPromotion) {
-    yes();
-    dbl(0);
-    click(g, "main", "promote", 3);
-    EXPECT_EQ(week({{20, 20}, {100, 100}, {1, 2}}).at(1), okbox("£39"));  // 78 + 20 copies
-    EXPECT_EQ(single(1), "8 1020 98 The Wasps/Song 1 98 0");
-    EXPECT_EQ(str(r.cash, r.popularity), str(3000 - 1500 - 400 - 4 + 39, 1004));
 }
 
 TEST_F(Singles, PromotionAddsHypeToReleasedSinglesAndTheTurnCapsItAt100) {

@@ -172,7 +172,7 @@ TEST_F(Events, MisbehaviourPressItemsAndTheFloorAtTheEnd) {
     EXPECT_TRUE(run(500, true).empty());
 }
 
-TEST_F(Events, OneIllnessAWeekReplacingWhatWasLeft) {
+TEST_F(Events, OneIllnessAWeekReplacingWhatWasLeftAndInvitationsNeedMoreThanTwoHundred) {
     r.memberill[2] = 7;
     picks({{2, 1000}, {1, 1000}, {1, 10}});  // slots 3 and 4 are not tested
     EXPECT_EQ(run(50),
@@ -182,9 +182,7 @@ TEST_F(Events, OneIllnessAWeekReplacingWhatWasLeft) {
     EXPECT_EQ(run(50),
               Lines{memo("Mona", "Di Kit has fallen ill and will be out for about 10 weeks.")});
     EXPECT_EQ(str(r.memberill[2], r.memberill[4]), "1 10");
-}
-
-TEST_F(Events, InvitationsNeedMoreThanTwoHundred) {
+    r.memberill = {};
     nobody_ill();
     EXPECT_TRUE(run(200).empty());  // no invitation draw at 200
     for (int k : {3, 2}) {
