@@ -241,7 +241,7 @@ TEST_F(Training, PracticeStepsUpAtFourPoints) {
     const int cases[][4] = {
         {3, 2, 0, 4}, {3, 1, 0, 4}, {2, 1, 3, 3}};  // points, drawn, after, talent
     for (const auto& [before, drawn, after, talent] : cases) {
-        r.practice[2] = static_cast<Integer>(before), r.membertalent[2] = 3, r.tiredness = 0;
+        r.practice[2] = before, r.membertalent[2] = 3, r.tiredness = 0;
         picks({{2, 4}, {drawn, 2}});  // the guitarist
         exactly([&] { practise(g); });
         EXPECT_EQ(str(r.practice[2], r.membertalent[2], r.tiredness), str(after, talent, 2));
@@ -329,13 +329,13 @@ TEST_F(Interviews, RadioAndCableScoresAndTheSilentTwentyAndSixty) {
     EXPECT_EQ(click(g, "main", "interview"), ClickResult::NotUsableNow);  // no invitation yet
     for (const auto& c : cases) {
         full_band({.charisma = c.charisma, .attitude = c.attitude, .looks = 2});
-        r.memberattitude[1] = static_cast<Integer>(c.ann_attitude);
+        r.memberattitude[1] = c.ann_attitude;
         for (int s = 0; s < 4; ++s) {
             pick(c.pick, c.charisma);
             if (c.kind != 1) pick(c.looks[s] - '0', 2);
         }
         if (c.kind == 1) pick(c.bonus + 1, 20);
-        r.interviewkind = static_cast<Integer>(c.kind), r.popularity = 100;
+        r.interviewkind = c.kind, r.popularity = 100;
         g.forms.main.interview.enabled = true;
         exactly([&] { EXPECT_EQ(click(g, "main", "interview"), ClickResult::Done); });
         said(c.text ? Lines{memo("Mona", c.text)} : Lines{});

@@ -13,8 +13,7 @@ class ChartStep : public Office {
   protected:
     void SetUp() override { calm_chart(); }
     void row(int i, int demand, int fame, int life, Long sales = 0) {
-        r.chartdemand[i] = static_cast<Integer>(demand);
-        r.chartfame[i] = static_cast<Integer>(fame), r.chartlife[i] = static_cast<Integer>(life);
+        r.chartdemand[i] = demand, r.chartfame[i] = fame, r.chartlife[i] = life,
         r.chartsales[i] = sales;
     }
     /// A row as "band / title: demand fame quality life sales last".

@@ -20,7 +20,7 @@ class GigsTest : public Office {
         r.popularity = 100;
     }
     void set_qualities(const std::vector<int>& q) {
-        for (std::size_t s = 0; s < q.size(); ++s) r.songquality[s + 1] = Integer(q[s]);
+        for (std::size_t s = 0; s < q.size(); ++s) r.songquality[s + 1] = q[s];
     }
     void open_and_book(int location) {
         ASSERT_EQ(click(g, "main", "command4"), ClickResult::Done);
@@ -177,7 +177,7 @@ TEST_F(GigsTest, MemberValuesCountByTheirThresholdsAndTheCrowdFollowsTheRaisedPo
     // Score 60 adds 15. At the Rose and Crown (capacity 40, £2, free): 145 + 15 gives exactly
     // 40 fans, 149 + 15 gives 41 though 149 alone would give 37.
     for (auto [popularity, fans] : {std::pair{145, 40}, {149, 40}, {141, 39}}) {
-        r.popularity = static_cast<Integer>(popularity), r.cash = 10;
+        r.popularity = popularity, r.cash = 10;
         play();
         EXPECT_EQ(str(r.attendance, r.cash, g.forms.thenewspaper.txtprofit.caption),
                   str(fans, 10 + 2 * fans, "£" + std::to_string(2 * fans)));
@@ -195,11 +195,11 @@ TEST_F(GigsTest, SetListScoring) {
                  {{80, 20, 20}, {0, 1, 2}, 1, 180, 1},
                  {{50, 10, 30, 40, 40}, {2, 4, 3}, 0, 110, 5}};
     for (const auto& c : cases) {
-        r.songcount = static_cast<Integer>(c.quality.size());
+        r.songcount = c.quality.size();
         set_qualities(c.quality);
         open_and_book(0);
         for (int row : c.rows) click(g, "gig", "Combo1", row);
-        if (c.repeat) r.setlist[2] = static_cast<Integer>(c.repeat);
+        if (c.repeat) r.setlist[2] = c.repeat;
         picks({{1, 2}, {1, 5}});
         click(g, "gig", "command4");
         EXPECT_EQ(str(g.gig.gigscore, r.bestsong), str(c.score, c.best));

@@ -12,35 +12,28 @@ namespace {
 const Shown kStarted = memo("Dave", "Good news, Boss. The band has started writing a new song!");
 const Shown kFinished = memo("Dave", "The band has finished writing a new song!");
 
-class Songs : public Office {
-  protected:
-    /// Record Song, then the lines it raised, with its memos acknowledged.
-    Lines record() {
-        click(g, "main", "command1");
-        ok_memos();
-        return take();
-    }
-};
+using Songs = Office;
 
 TEST_F(Songs, RefusalsComeInOrderAndChangeNothingThenTheSongStarts) {
     const Lines limit{okbox("You have reached the limit of 20 songs!")};
     r.membername[2] = r.membername[4] = "None", r.songweeks = 5, r.songcount = 20;
     draws({0.5});  // must stay undrawn
-    EXPECT_EQ(record(), limit);
+    EXPECT_EQ(office("command1"), limit);
     r.songcount = 19;
-    EXPECT_EQ(record(), Lines{memo("Dave", "The band is currently working on a song.")});
+    EXPECT_EQ(office("command1"), Lines{memo("Dave", "The band is currently working on a song.")});
     r.songweeks = 10;
-    EXPECT_EQ(record(), Lines{memo("Dave", "You need a full band to write a song, Boss")});
+    EXPECT_EQ(office("command1"),
+              Lines{memo("Dave", "You need a full band to write a song, Boss")});
     full_band();
     r.songcount = 20;
-    EXPECT_EQ(record(), limit);
+    EXPECT_EQ(office("command1"), limit);
     EXPECT_EQ(str(r.songweeks, g.rnd.queued_left()), "10 1");
     // A rested band starts at once; a tired band is asked, and Yes costs happiness.
     g.rnd.clear_queue(), r.songcount = 3;
     for (int k : {1, 4}) {
         r.songweeks = 10;
         pick(k, 4);
-        EXPECT_EQ(record(), Lines{kStarted});
+        EXPECT_EQ(office("command1"), Lines{kStarted});
         EXPECT_EQ(r.songweeks, k + 3);  // four to seven weeks
     }
     const std::string ask =
@@ -49,10 +42,10 @@ TEST_F(Songs, RefusalsComeInOrderAndChangeNothingThenTheSongStarts) {
     set_happy(1, 10, 5, 0);
     pick(2, 4);
     no();
-    EXPECT_EQ(record(), Lines{yesno(ask, false)});
+    EXPECT_EQ(office("command1"), Lines{yesno(ask, false)});
     EXPECT_EQ(str(happiness(), r.songweeks), "1 10 5 0 10");
     yes();
-    EXPECT_EQ(record(), (Lines{yesno(ask, true), kStarted}));
+    EXPECT_EQ(office("command1"), (Lines{yesno(ask, true), kStarted}));
     EXPECT_EQ(str(happiness(), r.songweeks, r.tiredness, r.cash), "0 9 4 0 5 1 3000");
 }
 
@@ -109,21 +102,16 @@ class Label : public Office {
         calm_chart();
         songs({10, 45});
     }
-    Lines send() {
-        click(g, "main", "command3");
-        ok_memos();
-        return take();
-    }
 };
 
 TEST_F(Label, SendingADemoAndTheVerdictTable) {
-    EXPECT_EQ(send(),
+    EXPECT_EQ(office("command3"),
               Lines{memo("Mona", "Select a song from the list to send to the record company.")});
     click(g, "main", "songlist", 0);
     r.signed_ = -1;  // a band under contract sends demos too
-    EXPECT_EQ(send(), Lines{kSent});
+    EXPECT_EQ(office("command3"), Lines{kSent});
     g.main.selectedsong = 0;
-    EXPECT_EQ(send(), Lines{memo("Dave", "We have already sent a Demo Tape, Boss.")});
+    EXPECT_EQ(office("command3"), Lines{memo("Dave", "We have already sent a Demo Tape, Boss.")});
     EXPECT_EQ(g.main.demosent, -1);
     const std::string label = "The record label ";
     const std::string ok = label + "thought the song was ok but not what they are looking for.";
@@ -146,8 +134,8 @@ TEST_F(Label, SendingADemoAndTheVerdictTable) {
                            {40, 999, 0},   {41, 999, 5},  {41, 1000, 6},
                            {300, 32000, 6}};  // quality, popularity, what is said
     for (const auto& [quality, popularity, k] : rows) {
-        r.songquality[2] = static_cast<Integer>(quality);
-        r.popularity = static_cast<Integer>(popularity), r.signed_ = 0, g.main.demosent = -1;
+        r.songquality[2] = quality;
+        r.popularity = popularity, r.signed_ = 0, g.main.demosent = -1;
         g.main.selectedsong = 2;
         const bool goes_on = demo_verdict(g);
         EXPECT_EQ(str(goes_on, g.main.demosent, r.signed_), str(k != 1, 0, k == 6 ? -1 : 0))
@@ -231,8 +219,8 @@ TEST_F(Singles, ReleaseTakes1500AndSetsDemandThenAFirstWeekUnderHighPromotion) {
 TEST_F(Singles, RoyaltiesAreTwoFifthsOfTheSalesWithABoxForEverySingle) {
     const int hype[] = {0, 0, 0, 100, 0}, demand[] = {0, 0, 0, 5, 0};
     for (int k = 1; k <= 4; ++k) {
-        r.released[k] = -1, r.singlehype[k] = static_cast<Integer>(hype[k]);
-        r.singledemand[k] = static_cast<Integer>(demand[k]), r.chartsales[k] = 7 * k;
+        r.released[k] = -1, r.singlehype[k] = hype[k];
+        r.singledemand[k] = demand[k], r.chartsales[k] = 7 * k;
     }
     // 1 copy, 3 copies, 5 + 20 copies, 4 copies; each then loses demand.
     picks({{1, 20}, {1, 100}, {3, 20}, {50, 100}, {20, 20}, {3, 100}, {4, 20}, {1, 100}});

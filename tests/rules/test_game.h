@@ -92,9 +92,9 @@ class TestGame {
     /// Puts a member into a slot directly.
     void put(int s, const std::string& name, Member m = {}) {
         r.membername[s] = name, r.membersex[s] = m.sex, r.memberage[s] = 20;
-        r.membertalent[s] = Integer(m.talent), r.membercharisma[s] = Integer(m.charisma);
-        r.memberattitude[s] = Integer(m.attitude), r.memberlooks[s] = Integer(m.looks);
-        r.membercreativity[s] = Integer(m.creativity), r.memberhappy[s] = Integer(m.happy);
+        r.membertalent[s] = m.talent, r.membercharisma[s] = m.charisma;
+        r.memberattitude[s] = m.attitude, r.memberlooks[s] = m.looks;
+        r.membercreativity[s] = m.creativity, r.memberhappy[s] = m.happy;
     }
 
     /// Fills all four slots with steady members (attitude 5 never misbehaves).
@@ -120,8 +120,8 @@ class TestGame {
     /// Songs 1, 2, ... of the given qualities, on the track list.
     void songs(const std::vector<int>& qualities) {
         int k = 0;
-        for (int q : qualities) ++k, r.songname[k] = str("Song", k), r.songquality[k] = Integer(q);
-        r.songcount = r.nextsong = static_cast<Integer>(k);
+        for (int q : qualities) ++k, r.songname[k] = str("Song", k), r.songquality[k] = q;
+        r.songcount = r.nextsong = k;
         updatesonglist(g);
     }
 
@@ -146,7 +146,7 @@ class TestGame {
             r.chartfame[row] = 10, r.chartquality[row] = 50, r.chartdemand[row] = 100;
             r.chartlife[row] = 30000, r.chartsales[row] = row, r.chartlastsales[row] = 0;
         }
-        for (int k = 0; k <= 50; ++k) r.rivalname[k] = str("Pool", k), r.rivalfame[k] = Integer(k);
+        for (int k = 0; k <= 50; ++k) r.rivalname[k] = str("Pool", k), r.rivalfame[k] = k;
     }
     /// Rival rows' steps that keep them running: demand +1, fame +1, life -1.
     void tick(int rows = 1) {
@@ -179,6 +179,12 @@ class TestGame {
     /// Acknowledges every open memo.
     void ok_memos() {
         while (!g.memos.empty() && !g.ended) memo_ok(g);
+    }
+    /// A click on the office with its memos acknowledged; the lines it raised.
+    Lines office(const char* control) {
+        click(g, "main", control);
+        ok_memos();
+        return take();
     }
     /// Expects exactly these memos shown so far, then acknowledges them.
     void said(const Lines& want) {

@@ -102,7 +102,7 @@ class Events : public Office {
     /// Runs the events from `popularity` with the draws queued (and a quiet press unless
     /// `press`); expects exactly those taken, and gives the memos.
     Lines run(int popularity, bool press = false) {
-        r.popularity = static_cast<Integer>(popularity);
+        r.popularity = popularity;
         if (!press) pick(4, 100);
         exactly([&] { events(g); });
         Lines out = memos();
@@ -117,8 +117,8 @@ TEST_F(Events, OnlyTheFirstMemberOfAttitudeOneToThreeIsTestedAtOddsByAttitude) {
     EXPECT_TRUE(run(50).empty());
     for (int a = 1; a <= 3; ++a) {
         for (bool hit : {true, false}) {
-            r.memberfriction[1] = 0, r.memberattitude[1] = static_cast<Integer>(a);
-            r.memberattitude[2] = static_cast<Integer>(hit ? a : 4);
+            r.memberfriction[1] = 0, r.memberattitude[1] = a;
+            r.memberattitude[2] = hit ? a : 4;
             draws({(hit ? 0.999 : 1.001) / (a + 5)});
             if (hit) pick(2, 5);
             nobody_ill();  // would be a misbehaviour of slot 2 if it were tested
