@@ -235,7 +235,7 @@ class Training : public Office {
     }
 };
 
-TEST_F(Training, PracticeStepsUpAtFourPoints) {
+TEST_F(Training, PracticeStepsUpAtFourPointsTheTurnAsksAndTheUnhappyMember) {
     const Shown better =
         memo("Dave", "Good news, Boss. Thanks to practising, Bob Axe has become more talented!");
     const int cases[][4] = {
@@ -247,6 +247,20 @@ TEST_F(Training, PracticeStepsUpAtFourPoints) {
         EXPECT_EQ(str(r.practice[2], r.membertalent[2], r.tiredness), str(after, talent, 2));
         said(talent == 4 ? Lines{better} : Lines{});
     }
+    // The turn asks; Yes draws a member and a point, a tired band is asked again.
+    r.practice[2] = r.tiredness = 0, r.memberhappy[3] = 1;
+    yes();
+    picks({{2, 4}, {1, 2}});  // the guitarist gains one point
+    command6(g);
+    EXPECT_EQ(str(r.practice[2], r.tiredness), "1 1");  // 2 from practice, 1 off at once
+    EXPECT_EQ(memos().front(), memo("Steven", "Cy Low is unhappy."));
+    ok_memos();
+    yes();
+    no();  // tired: not this week
+    command6(g);
+    EXPECT_EQ(take()[1], yesno("The band is tired, make them practise anyway?", false));
+    EXPECT_EQ(str(r.practice[2] + r.tiredness, r.membername[3]), "1 Cy Low");
+    ok_memos();
     r.membername[3] = "None";  // no practice offered to a band with an empty slot
     command6(g);
     for (const Shown& s : take()) EXPECT_NE(s.kind, Shown::Kind::Box) << s.text;

@@ -49,7 +49,7 @@ TEST_F(Songs, RefusalsComeInOrderAndChangeNothingThenTheSongStarts) {
     EXPECT_EQ(str(happiness(), r.songweeks, r.tiredness, r.cash), "0 9 4 0 5 1 3000");
 }
 
-TEST_F(Songs, MakesongDrawsQualityInSlotOrderThenTirednessThenTitle) {
+TEST_F(Songs, MakesongDrawsQualityInSlotOrderThenTirednessThenTitleAndTheTurnCallsIt) {
     // Slot 2 was left mid-song: its talent and creativity of 0 count 1 each.
     put(1, "Ann Vox", {.talent = 5, .creativity = 3});
     r.membername[2] = "None", r.membertalent[2] = r.membercreativity[2] = 0;
@@ -67,15 +67,14 @@ TEST_F(Songs, MakesongDrawsQualityInSlotOrderThenTirednessThenTitle) {
                   r.songcount),
               "0 15 Wild Love 2 4 4");
     EXPECT_EQ(g.forms.main.songlist.rows, (Rows{"Song 1", "Song 2", "Song 3", "Wild Love"}));
-    EXPECT_EQ(memos(), Lines{kFinished});
+    said({kFinished});
     full_band({.talent = 1, .creativity = 1});  // a band of 1s always writes quality 8
     for (int i = 0; i < 8; ++i) draws({0.999});
     picks({{3, 3}, {20, 20}, {20, 20}});
     makesong(g);
     EXPECT_EQ(str(r.songname[5], r.songquality[5], r.tiredness), "Shocked Feelings 8 4");
-}
-
-TEST_F(Songs, TheTurnThatFinishesASongLeavesTirednessOneToThree) {
+    said({kFinished});
+    // The turn that finishes a song leaves a tiredness of 1 to 3.
     calm_chart();
     for (int tired : {0, 2}) {
         r.songweeks = 1, r.tiredness = 6;

@@ -77,22 +77,6 @@ TEST_F(Turn, LabelsDateVenuesResetsAndTheSongClock) {
     EXPECT_EQ(t.r.songweeks, 4);
 }
 
-TEST_F(Turn, PracticeQuestionsAndTheUnhappyMember) {
-    full_band();
-    r.memberhappy[3] = 1;
-    yes();
-    picks({{2, 4}, {1, 2}});  // the guitarist gains one point
-    command6(g);
-    EXPECT_EQ(str(r.practice[2], r.tiredness), "1 1");  // 2 from practice, 1 off at once
-    EXPECT_EQ(memos().front(), memo("Steven", "Cy Low is unhappy."));
-    ok_memos();
-    yes();
-    no();  // tired: not this week
-    command6(g);
-    EXPECT_EQ(take()[1], yesno("The band is tired, make them practise anyway?", false));
-    EXPECT_EQ(str(r.practice[2] + r.tiredness, r.membername[3]), "1 Cy Low");
-}
-
 class Events : public Office {
   protected:
     /// Illness draws that strike nobody, each small enough to be a misbehaviour if taken for one.
