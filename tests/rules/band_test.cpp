@@ -10,10 +10,8 @@
 namespace tourvane::testing {
 namespace {
 
-class Applicants : public ::testing::Test, protected TestGame {
-  protected:
+struct Applicants : NewGame {
     OfficeForm& f = g.forms.main;
-    void SetUp() override { new_game(); }
     const std::string& panel() { return f.txtapplicant.caption; }
     /// Clicks (or updates, with no control) taking exactly the draws queued before.
     void press(const char* control = nullptr) {
@@ -114,10 +112,16 @@ TEST_F(Applicants, MemoAtExactlyFiveComesAfterTheNextApplicantIsDrawn) {
     EXPECT_TRUE(memos().empty());
 }
 
-class Roster : public Office {
-  protected:
+struct Roster : Office {
     OfficeForm& f = g.forms.main;
     void SetUp() override { listupdate(g), update(g); }
+    /// A lesson for the member of row `row`, answered Yes or No; the lines it raised.
+    Lines lesson(int row, bool go) {
+        click(g, "main", "members", row);
+        go ? yes() : no();
+        click(g, "main", "label13");
+        return take();
+    }
 };
 
 TEST_F(Roster, ListClosesGapsAndARowFillsThePanel) {
@@ -223,17 +227,7 @@ TEST_F(Roster, WalkOutCarriesALaterMemberAndLeavesTheEmptySlotPicked) {
     EXPECT_EQ(memos(), (Lines{memo("Mona", "Ann Vox" + shock), memo("Mona", "Cy Low" + shock)}));
 }
 
-class Training : public Office {
-  protected:
-    void SetUp() override { listupdate(g), update(g); }
-    /// A lesson for the member of row `row`, answered Yes or No; the lines it raised.
-    Lines lesson(int row, bool go) {
-        click(g, "main", "members", row);
-        go ? yes() : no();
-        click(g, "main", "label13");
-        return take();
-    }
-};
+using Training = Roster;
 
 TEST_F(Training, PracticeStepsUpAtFourPointsTheTurnAsksAndTheUnhappyMember) {
     const Shown better =

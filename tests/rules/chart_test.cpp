@@ -9,8 +9,7 @@
 namespace tourvane::testing {
 namespace {
 
-class ChartStep : public Office {
-  protected:
+struct ChartStep : Office {
     void SetUp() override { calm_chart(); }
     void row(int i, int demand, int fame, int life, Long sales = 0) {
         r.chartdemand[i] = demand, r.chartfame[i] = fame, r.chartlife[i] = life,
@@ -86,8 +85,7 @@ TEST_F(ChartStep, PlayerRowsStandStillAndRowTwentyIsARivalRow) {
 
 // The chart screen. Row i is "Band i" with "Title i" and sells i copies unless a test says
 // otherwise.
-class ChartScreen : public Office {
-  protected:
+struct ChartScreen : Office {
     void SetUp() override {
         EXPECT_EQ(click(g, "main", "secret"), ClickResult::NotUsableNow);  // no full week yet
         for (int i = 1; i <= 70; ++i) {

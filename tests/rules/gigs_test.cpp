@@ -9,8 +9,7 @@ namespace tourvane::testing {
 namespace {
 
 /// A full, fit band whose members add nothing to a score, three songs, every venue open.
-class GigsTest : public Office {
-  protected:
+struct GigsTest : Office {
     void SetUp() override {
         full_band({.talent = 4, .looks = 4, .happy = 4});
         const char* songs[] = {"", "Alpha", "Beta", "Gamma", "Delta", "Echo"};

@@ -95,8 +95,7 @@ const Shown kSigned =
 const Shown kRejected = memo("Mona", "The record label rejected our demo tape.");
 const Shown kSent = memo("Dave", "We have sent a demo to the record company");
 
-class Label : public Office {
-  protected:
+struct Label : Office {
     void SetUp() override {
         calm_chart();
         songs({10, 45});
@@ -164,8 +163,7 @@ TEST_F(Label, ContractHoldsAt900AndEndsAt899BeforeThePromotion) {
               "0 0 0 500 901");
 }
 
-class Singles : public Office {
-  protected:
+struct Singles : Office {
     void SetUp() override {
         calm_chart();
         songs({30, 12, 50, 20});

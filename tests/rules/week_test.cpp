@@ -75,8 +75,7 @@ TEST_F(Turn, LabelsDateVenuesResetsAndTheSongClock) {
     EXPECT_EQ(t.r.songweeks, 4);
 }
 
-class Events : public Office {
-  protected:
+struct Events : Office {
     /// Illness draws that strike nobody, each small enough to be a misbehaviour if taken for one.
     void nobody_ill(int n = 4) {
         for (int i = 0; i < n; ++i) pick(2, 1000);
