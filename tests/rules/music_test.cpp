@@ -96,10 +96,7 @@ const Shown kRejected = memo("Mona", "The record label rejected our demo tape.")
 const Shown kSent = memo("Dave", "We have sent a demo to the record company");
 
 struct Label : Office {
-    void SetUp() override {
-        calm_chart();
-        songs({10, 45});
-    }
+    void SetUp() override { calm_chart(), songs({10, 45}); }
 };
 
 TEST_F(Label, SendingADemoAndTheVerdictTable) {
@@ -112,19 +109,16 @@ TEST_F(Label, SendingADemoAndTheVerdictTable) {
     EXPECT_EQ(office("command3"), Lines{memo("Dave", "We have already sent a Demo Tape, Boss.")});
     EXPECT_EQ(g.main.demosent, -1);
     const std::string label = "The record label ";
-    const std::string ok = label + "thought the song was ok but not what they are looking for.";
-    const std::string liked = label + "liked your song but felt it didn't meet their needs.";
-    const std::string lot =
-        label + "liked the song a lot, they would like to hear some more of your tracks.";
-    const std::string develop =
-        label + "loved the track, but think the band as a whole still needs to develop.";
-    const Shown words[] = {{},
-                           kRejected,
-                           memo("Mona", ok),
-                           memo("Mona", liked),
-                           memo("Mona", lot),
-                           memo("Mona", develop),
-                           kSigned};
+    const Shown words[] = {
+        {},
+        kRejected,
+        memo("Mona", label + "thought the song was ok but not what they are looking for."),
+        memo("Mona", label + "liked your song but felt it didn't meet their needs."),
+        memo("Mona", label + "liked the song a lot, they would like to hear some more of your "
+                             "tracks."),
+        memo("Mona", label + "loved the track, but think the band as a whole still needs to "
+                             "develop."),
+        kSigned};
     const int rows[][3] = {{8, 5000, 1},   {19, 0, 1},    {20, 5000, 0},
                            {21, 0, 2},     {24, 0, 2},    {25, 0, 0},
                            {26, 0, 3},     {29, 0, 3},    {30, 0, 0},
@@ -132,11 +126,9 @@ TEST_F(Label, SendingADemoAndTheVerdictTable) {
                            {40, 999, 0},   {41, 999, 5},  {41, 1000, 6},
                            {300, 32000, 6}};  // quality, popularity, what is said
     for (const auto& [quality, popularity, k] : rows) {
-        r.songquality[2] = quality;
-        r.popularity = popularity, r.signed_ = 0, g.main.demosent = -1;
-        g.main.selectedsong = 2;
-        const bool goes_on = demo_verdict(g);
-        EXPECT_EQ(str(goes_on, g.main.demosent, r.signed_), str(k != 1, 0, k == 6 ? -1 : 0))
+        r.songquality[2] = quality, r.popularity = popularity, r.signed_ = 0;
+        g.main.demosent = -1, g.main.selectedsong = 2;
+        EXPECT_EQ(str(demo_verdict(g), g.main.demosent, r.signed_), str(k != 1, 0, k == 6 ? -1 : 0))
             << quality;
         said(k ? Lines{words[k]} : Lines{});
     }
@@ -165,8 +157,7 @@ TEST_F(Label, ContractHoldsAt900AndEndsAt899BeforeThePromotion) {
 
 struct Singles : Office {
     void SetUp() override {
-        calm_chart();
-        songs({30, 12, 50, 20});
+        calm_chart(), songs({30, 12, 50, 20});
         r.signed_ = -1, r.popularity = 1000;
     }
     /// A double click on a row of the track list (-1: the empty part), memos acknowledged.
