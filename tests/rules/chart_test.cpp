@@ -88,10 +88,8 @@ TEST_F(ChartStep, PlayerRowsStandStillAndRowTwentyIsARivalRow) {
 struct ChartScreen : Office {
     void SetUp() override {
         EXPECT_EQ(click(g, "main", "secret"), ClickResult::NotUsableNow);  // no full week yet
-        for (int i = 1; i <= 70; ++i) {
-            r.chartband[i] = "Band " + std::to_string(i);
-            r.charttitle[i] = "Title " + std::to_string(i), r.chartsales[i] = i;
-        }
+        for (int i = 1; i <= 70; ++i)
+            r.chartband[i] = str("Band", i), r.charttitle[i] = str("Title", i), r.chartsales[i] = i;
         g.forms.main.secret.enabled = true;
     }
     void open() { ASSERT_EQ(click(g, "main", "secret"), ClickResult::Done); }
@@ -159,7 +157,9 @@ Bytes numbered_bands() {
     return w.take();
 }
 
-TEST(LoadBands, FillsRowsPoolAndLifeFromTheWorkingDirectory) {
+// Start-up reads bands.dat from the working directory; a missing, short or damaged file falls
+// back to the built-in copy, and a whole file further along the search path comes first.
+TEST(LoadBands, FillsRowsPoolAndLifeAndFallsBackToTheBuiltInCopy) {
     TempDir dir;
     std::string why;
     ASSERT_TRUE(replace_file("bands.dat", numbered_bands(), why));
@@ -174,14 +174,12 @@ TEST(LoadBands, FillsRowsPoolAndLifeFromTheWorkingDirectory) {
     for (int i = 51; i <= 60; ++i) EXPECT_EQ(r.rivalname[i] + std::to_string(r.rivalfame[i]), "0");
     for (int row = 0; row < 20; ++row)
         EXPECT_EQ(r.chartband[row] + std::to_string(r.chartlife[row]), "0");
-}
 
-TEST(LoadBands, MissingShortOrDamagedFilesFallBackToTheBuiltInCopy) {
-    TempDir dir;
+    Game& g = t.g;
     ScriptedPort port;
-    Game g(port), builtin(port);
+    Game builtin(port);
     loadbands_from(builtin, {});
-    std::string why;
+    std::filesystem::remove("bands.dat");
     const std::vector<std::filesystem::path> here{"bands.dat"};
     Bytes short_file = numbered_bands(), damaged = numbered_bands();
     short_file.pop_back();
@@ -195,7 +193,6 @@ TEST(LoadBands, MissingShortOrDamagedFilesFallBackToTheBuiltInCopy) {
         EXPECT_EQ(read_file("bands.dat", 1 << 20),
                   file.empty() ? std::nullopt : std::optional(file));
     }
-    // A whole file further along the search path is taken before the built-in copy.
     std::filesystem::create_directory("share");
     ASSERT_TRUE(replace_file("share/bands.dat", numbered_bands(), why));
     EXPECT_EQ(loadbands_from(g, {"bands.dat", "missing/bands.dat", "share/bands.dat"}),
