@@ -14,9 +14,8 @@ struct GigsTest : Office {
         full_band({.talent = 4, .looks = 4, .happy = 4});
         const char* songs[] = {"", "Alpha", "Beta", "Gamma", "Delta", "Echo"};
         for (int s = 1; s <= 5; ++s) r.songname[s] = songs[s], r.songquality[s] = 20;
-        r.songcount = r.nextsong = 3;
+        r.songcount = r.nextsong = 3, r.popularity = 100;
         r.venueopen = {0, -1, -1, -1, -1, -1};
-        r.popularity = 100;
     }
     void set_qualities(const std::vector<int>& q) {
         for (std::size_t s = 0; s < q.size(); ++s) r.songquality[s + 1] = q[s];
@@ -72,9 +71,8 @@ TEST_F(GigsTest, SlotsAreWalkedInOrderThenTheSongsAreCounted) {
         if (c.vacant) r.membername[c.vacant] = "None";
         r.membersex[4] = c.sex4, r.songcount = c.text[0] == 'T' ? 2 : 3;
         click(g, "main", "command4");
-        EXPECT_EQ(memos(), Lines{memo(c.text[0] == 'T' ? "Dave" : "Mona", c.text)});
         EXPECT_FALSE(g.forms.gig.loaded);
-        ok_memos();
+        said({memo(c.text[0] == 'T' ? "Dave" : "Mona", c.text)});
     }
 }
 
@@ -136,10 +134,8 @@ TEST_F(GigsTest, TrackPicksClearingAndAShortListIsRefused) {
 
 TEST_F(GigsTest, WorkedExampleFromBookingToOffice) {
     set_qualities({30, 25, 20});
-    r.membertalent = {0, 5, 5, 3, 6};
-    r.memberlooks = {0, 4, 7, 2, 5};
-    r.memberhappy = {0, 10, 5, 3, 7};
-    r.memberfriction = {0, 0, 1, 0, 2};
+    r.membertalent = {0, 5, 5, 3, 6}, r.memberlooks = {0, 4, 7, 2, 5};
+    r.memberhappy = {0, 10, 5, 3, 7}, r.memberfriction = {0, 0, 1, 0, 2};
     play(1, 1, 3);
     EXPECT_EQ(str(g.gig.gigscore, r.popularity, r.attendance, r.gigprofit, r.cash, r.bestsong,
                   g.gig.tracksadded + r.setlist[1] + r.setlist[2] + r.setlist[3], happiness(),
@@ -207,8 +203,8 @@ TEST_F(GigsTest, SetListScoring) {
 }
 
 TEST_F(GigsTest, ReportOpensByScoreAndDrawAndAVeryBadGigHurtsOneMember) {
-    const std::string w = "The Wasps played a", nw = "New band The Wasps performed a",
-                      terrible = w +
+    const std::string w = "The Wasps played a", nw = "New band The Wasps performed a";
+    const std::string terrible = w +
                                  " terrible set last night. Lets hope they improve vastly in "
                                  "the near future, or there may be no future for them!";
     const struct {
@@ -247,15 +243,13 @@ TEST_F(GigsTest, ReportOpensByScoreAndDrawAndAVeryBadGigHurtsOneMember) {
     }
     // The drawn member takes it badly with no floor; the score is floored only at the end.
     set_qualities({10, 10, 10});
-    r.popularity = 100;
-    r.memberfriction[2] = 40;  // 30 - 40 = -10 on the way ...
-    r.memberhappy[4] = 10;     // ... and back to 0 with the last member's happiness
+    r.popularity = 100, r.memberfriction[2] = 40;  // 30 - 40 = -10 on the way ...
+    r.memberhappy[4] = 10;  // ... and back to 0 with the last member's happiness
     pick(4, 4);
     play(0, 2, 2);
     EXPECT_EQ(str(g.gig.gigscore, r.popularity, happiness()), "0 100 4 4 4 9");
     r.memberhappy[4] = 0;
-    next_gig();
-    pick(4, 4);
+    next_gig(), pick(4, 4);
     play(0, 2, 2);
     EXPECT_EQ(str(g.gig.gigscore, r.memberhappy[4]), "0 -1");  // -14 before the floor
     EXPECT_EQ(boxes(), Lines{okbox("Di Kit was extremely unhappy with the bands performance!")});
