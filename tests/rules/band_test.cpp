@@ -316,23 +316,20 @@ TEST_F(Interviews, RadioAndCableScoresAndTheSilentTwentyAndSixty) {
                            "The band interview on a cable T.V show went o.k",
                            "The bands appearance on a cable T.V show was fantastic!"};
     const struct {
-        int kind, charisma, attitude, ann_attitude, pick;
-        const char* looks;
-        int bonus;
-        const char* text;
-        int gain;
+        int kind, charisma, attitude, ann_attitude, pick, bonus, gain;
+        const char *looks, *text;
     } cases[] = {
-        {1, 6, 4, 4, 4, "", 10, radio[1], 13},       // 4 * (3 + 1 + 6) + 10 + 5 = 55
-        {1, 1, 10, 10, 1, "", 0, radio[0], 2},       // 9, the least a radio interview can score
-        {1, 1, 10, 10, 1, "", 11, nullptr, 5},       // 20
-        {1, 1, 10, 10, 1, "", 12, radio[1], 5},      // 21
-        {1, 4, 1, 1, 4, "", 3, nullptr, 15},         // 36 + 16 + 8 = 60
-        {1, 4, 1, 1, 4, "", 4, radio[2], 15},        // 61
-        {2, 10, 7, 7, 1, "1111", 0, nullptr, 5},     // 4 * (1 + 1 + 3) = 20
-        {2, 10, 7, 7, 7, "2222", 0, cable[1], 12},   // 4 * (7 + 2 + 3) = 48
-        {0, 10, 7, 7, 1, "2111", 0, cable[1], 5},    // any kind but radio: 21
-        {3, 10, 7, 8, 1, "1111", 0, cable[0], 4},    // 19
-        {2, 10, 7, 6, 10, "2222", 0, cable[2], 15},  // 16 + 3 * 15 = 61
+        {1, 6, 4, 4, 4, 10, 13, "", radio[1]},       // 4 * (3 + 1 + 6) + 10 + 5 = 55
+        {1, 1, 10, 10, 1, 0, 2, "", radio[0]},       // 9, the least a radio interview can score
+        {1, 1, 10, 10, 1, 11, 5, "", nullptr},       // 20
+        {1, 1, 10, 10, 1, 12, 5, "", radio[1]},      // 21
+        {1, 4, 1, 1, 4, 3, 15, "", nullptr},         // 36 + 16 + 8 = 60
+        {1, 4, 1, 1, 4, 4, 15, "", radio[2]},        // 61
+        {2, 10, 7, 7, 1, 0, 5, "1111", nullptr},     // 4 * (1 + 1 + 3) = 20
+        {2, 10, 7, 7, 7, 0, 12, "2222", cable[1]},   // 4 * (7 + 2 + 3) = 48
+        {0, 10, 7, 7, 1, 0, 5, "2111", cable[1]},    // any kind but radio: 21
+        {3, 10, 7, 8, 1, 0, 4, "1111", cable[0]},    // 19
+        {2, 10, 7, 6, 10, 0, 15, "2222", cable[2]},  // 16 + 3 * 15 = 61
     };
     EXPECT_EQ(click(g, "main", "interview"), ClickResult::NotUsableNow);  // no invitation yet
     for (const auto& c : cases) {
@@ -343,8 +340,7 @@ TEST_F(Interviews, RadioAndCableScoresAndTheSilentTwentyAndSixty) {
             if (c.kind != 1) pick(c.looks[s] - '0', 2);
         }
         if (c.kind == 1) pick(c.bonus + 1, 20);
-        r.interviewkind = c.kind, r.popularity = 100;
-        g.forms.main.interview.enabled = true;
+        r.interviewkind = c.kind, r.popularity = 100, g.forms.main.interview.enabled = true;
         exactly([&] { EXPECT_EQ(click(g, "main", "interview"), ClickResult::Done); });
         said(c.text ? Lines{memo("Mona", c.text)} : Lines{});
         EXPECT_EQ(r.popularity, 100 + c.gain) << c.kind << " " << c.gain;
