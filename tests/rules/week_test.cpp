@@ -11,7 +11,9 @@
 namespace tourvane::testing {
 namespace {
 
-using Turn = NewGame;
+struct Turn : ::testing::Test, TestGame {
+    Turn() { new_game(" ", "Jo"); }  // one blank is a name
+};
 
 // An empty band pays no wages; its popularity of 0 is floored by the events before the decay.
 // A full band's wages of 1 each: equal to the cash they leave nothing, one more ends the game,
@@ -53,26 +55,23 @@ TEST_F(Turn, PromotionPricesWagesAndTheEarlyEndsOfShortMoney) {
 }
 
 TEST_F(Turn, LabelsDateVenuesResetsAndTheSongClock) {
-    TestGame t;
-    t.new_game(" ", "Jo");  // one blank is a name
-    t.r.cash = -147, t.r.gamedate = 37135 + 122;
-    update(t.g);
-    OfficeForm& f = t.g.forms.main;
+    OfficeForm& f = g.forms.main;
+    r.cash = -147, r.gamedate = 37135 + 122;
+    update(g);
     EXPECT_EQ(str(f.txtname.caption, f.txtdate.caption, f.txtcash.caption),
               "Jo's Office 01/01/2002 £ -147");
-    t.r.cash = 3000, t.r.gamedate = 37135;
-    for (int v : {1, 2, 1, 2, 1}) t.pick(v, 2);  // venues 1, 3 and 5 open
-    t.r.interviewkind = 2, f.interview.enabled = true, t.g.main.applicantsseen = 6;
-    t.r.tiredness = t.r.memberill[2] = 1;  // counted down in every slot, vacant or not
-    command6(t.g);
-    const Module1& q = t.r;
-    EXPECT_EQ(str(q.venueopen[1], q.venueopen[2], q.venueopen[3], q.venueopen[4], q.venueopen[5],
-                  q.interviewkind, f.interview.enabled, t.g.main.applicantsseen, q.tiredness,
-                  q.memberill[2], q.songweeks, f.txtdate.caption),
+    r.cash = 3000, r.gamedate = 37135;
+    for (int v : {1, 2, 1, 2, 1}) pick(v, 2);  // venues 1, 3 and 5 open
+    r.interviewkind = 2, f.interview.enabled = true, g.main.applicantsseen = 6;
+    r.tiredness = r.memberill[2] = 1;  // counted down in every slot, vacant or not
+    command6(g);
+    EXPECT_EQ(str(r.venueopen[1], r.venueopen[2], r.venueopen[3], r.venueopen[4], r.venueopen[5],
+                  r.interviewkind, f.interview.enabled, g.main.applicantsseen, r.tiredness,
+                  r.memberill[2], r.songweeks, f.txtdate.caption),
               "-1 0 -1 0 -1 0 0 0 0 0 10 08/09/2001");  // the song clock stands at 10
-    t.r.songweeks = 5;
-    command6(t.g);
-    EXPECT_EQ(t.r.songweeks, 4);
+    r.songweeks = 5;
+    command6(g);
+    EXPECT_EQ(r.songweeks, 4);
 }
 
 struct Events : Office {
