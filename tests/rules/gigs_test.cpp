@@ -249,7 +249,8 @@ TEST_F(GigsTest, ReportOpensByScoreAndDrawAndAVeryBadGigHurtsOneMember) {
     play(0, 2, 2);
     EXPECT_EQ(str(g.gig.gigscore, r.popularity, happiness()), "0 100 4 4 4 9");
     r.memberhappy[4] = 0;
-    next_gig(), pick(4, 4);
+    next_gig();
+    pick(4, 4);
     play(0, 2, 2);
     EXPECT_EQ(str(g.gig.gigscore, r.memberhappy[4]), "0 -1");  // -14 before the floor
     EXPECT_EQ(boxes(), Lines{okbox("Di Kit was extremely unhappy with the bands performance!")});

@@ -86,7 +86,8 @@ struct Events : Office {
         if (!press) pick(4, 100);
         exactly([&] { events(g); });
         Lines out = memos();
-        return ok_memos(), out;
+        ok_memos();
+        return out;
     }
 };
 
