@@ -155,7 +155,7 @@ TEST_F(GigsTest, WorkedExampleFromBookingToOffice) {
     EXPECT_EQ(click(g, "main", "command4"), ClickResult::NotUsableNow);  // one gig a week
 }
 
-TEST_F(GigsTest, MemberValuesCountByTheirThresholdsAndTheCrowdFollowsTheRaisedPopularity) {
+TEST_F(GigsTest, MemberValuesCountByTheirThresholdsTheCrowdFollowsPopularityAndTheSetList) {
     // One member differs from the neutral 4/4/4 band each time: {talent, looks, happy, score}.
     const Integer cases[][4] = {{4, 4, 3, 59}, {4, 4, 4, 60}, {4, 4, 6, 60}, {4, 4, 7, 67},
                                 {6, 4, 4, 66}, {4, 6, 4, 60}, {5, 4, 4, 60}, {3, 4, 4, 59},
@@ -178,18 +178,16 @@ TEST_F(GigsTest, MemberValuesCountByTheirThresholdsAndTheCrowdFollowsTheRaisedPo
                   str(fans, 10 + 2 * fans, "£" + std::to_string(2 * fans)));
         next_gig();
     }
-}
 
-TEST_F(GigsTest, SetListScoring) {
     // A repeat pays only when the song is great; the screen keeps a song off the list twice,
     // but a list made some other way still plays. The best song is the earliest of the best.
     const struct {
         std::vector<int> quality, rows;
         int repeat, score, best;
-    } cases[] = {{{79, 20, 20}, {0, 1, 2}, 1, 20, 1},
+    } lists[] = {{{79, 20, 20}, {0, 1, 2}, 1, 20, 1},
                  {{80, 20, 20}, {0, 1, 2}, 1, 180, 1},
                  {{50, 10, 30, 40, 40}, {2, 4, 3}, 0, 110, 5}};
-    for (const auto& c : cases) {
+    for (const auto& c : lists) {
         r.songcount = c.quality.size();
         set_qualities(c.quality);
         open_and_book(0);

@@ -99,7 +99,7 @@ struct Label : Office {
     void SetUp() override { calm_chart(), songs({10, 45}); }
 };
 
-TEST_F(Label, SendingADemoAndTheVerdictTable) {
+TEST_F(Label, SendingADemoTheVerdictTableAndTheContractHoldingAt900AndEndingAt899) {
     EXPECT_EQ(office("command3"),
               Lines{memo("Mona", "Select a song from the list to send to the record company.")});
     click(g, "main", "songlist", 0);
@@ -134,9 +134,7 @@ TEST_F(Label, SendingADemoAndTheVerdictTable) {
     }
     EXPECT_TRUE(demo_verdict(g));  // no demo out: nothing
     EXPECT_TRUE(take().empty());
-}
 
-TEST_F(Label, ContractHoldsAt900AndEndsAt899BeforeThePromotion) {
     r.signed_ = -1, r.popularity = 900;
     contract_review(g);
     EXPECT_EQ(r.signed_, -1);

@@ -38,11 +38,9 @@ using Bytes = std::vector<std::uint8_t>;
 /// A fresh, empty working directory for one test: the game reads and writes its files in the
 /// working directory, so each test gets its own and the old one comes back afterwards.
 struct TempDir {
-    std::filesystem::path old = std::filesystem::current_path(), path;
-    TempDir() {
-        std::string pattern = (std::filesystem::temp_directory_path() / "tourvane-XXXXXX").string();
-        std::filesystem::current_path(path = ::mkdtemp(pattern.data()));
-    }
+    std::filesystem::path old = std::filesystem::current_path();
+    std::string path = (std::filesystem::temp_directory_path() / "tourvane-XXXXXX").string();
+    TempDir() { std::filesystem::current_path(::mkdtemp(path.data())); }
     ~TempDir() {
         std::filesystem::current_path(old);
         std::error_code ec;

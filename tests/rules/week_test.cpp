@@ -91,7 +91,7 @@ struct Events : Office {
     }
 };
 
-TEST_F(Events, OnlyTheFirstMemberOfAttitudeOneToThreeIsTestedAtOddsByAttitude) {
+TEST_F(Events, OnlyTheFirstMemberOfAttitudeOneToThreeIsTestedThenMisbehaviourAndPressItems) {
     r.memberattitude = {0, 0, 4, 4, 4};
     nobody_ill();
     EXPECT_TRUE(run(50).empty());
@@ -104,11 +104,9 @@ TEST_F(Events, OnlyTheFirstMemberOfAttitudeOneToThreeIsTestedAtOddsByAttitude) {
             EXPECT_EQ(str(a, run(50).size(), r.memberfriction[1], r.memberfriction[2]),
                       str(a, hit ? "1 1 0" : "0 0 0"));
         }
-}
 
-// Misbehaviour (kind 1 to 5 by Bob, from Mona) and press items (kind 1 to 3, from Dave), each
-// with the top draw of its popularity step; the floor of 0 comes after both.
-TEST_F(Events, MisbehaviourPressItemsAndTheFloorAtTheEnd) {
+    // Misbehaviour (kind 1 to 5 by Bob, from Mona) and press items (kind 1 to 3, from Dave), each
+    // with the top draw of its popularity step; the floor of 0 comes after both.
     const struct {
         int bob, press, top, popularity, friction;
         std::string text;
@@ -123,7 +121,7 @@ TEST_F(Events, MisbehaviourPressItemsAndTheFloorAtTheEnd) {
         {0, 3, 3, 53, 0, "A few members of the band were invited to do a charity event this week."},
         {0, 100, 0, 50, 0, ""},
     };
-    r.memberattitude[2] = 2;
+    r.memberattitude = {0, 5, 2, 5, 5};
     for (const auto& c : cases) {
         r.memberfriction[2] = 0;
         c.bob ? picks({{1, 7}, {c.bob, 5}}) : draws({0.5});
