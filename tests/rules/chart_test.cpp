@@ -34,8 +34,7 @@ TEST_F(ChartStep, EachRowDrawsDemandFameAndLifeInTurn) {
     tick();
     picks({{2, 2}, {1, 5}, {1, 2}, {3, 3}, {1, 100}});
     tick(46);
-    chart_step(g);
-    EXPECT_EQ(g.rnd.queued_left(), 0u);
+    exactly([&] { chart_step(g); });
     EXPECT_EQ(at(21), "Rival 21 / Hit 21: 44 1 50 250 132 55");
     EXPECT_EQ(at(22), "Rival 22 / Hit 22: 0 0 50 299 0 9");
     EXPECT_EQ(at(23), "Rival 23 / Hit 23: 29 6 50 99 28 0");
@@ -60,8 +59,7 @@ TEST_F(ChartStep, SpentRowsTakeANewRecordFromThePool) {
     picks({{1, 2}, {1, 5}, {1, 2}, {1, 3}, {100, 100}});
     draws({0.99999999});
     picks({{100, 100}, {20, 20}, {20, 20}, {1, 45}});
-    chart_step(g);
-    EXPECT_EQ(g.rnd.queued_left(), 0u);
+    exactly([&] { chart_step(g); });
     EXPECT_EQ(at(20), "Pool 0 / Wild Love: 50 13 74 309 0 0");
     EXPECT_EQ(at(70), "Pool 50 / Shocked Feelings: 149 50 30 170 0 0");
 }
@@ -77,8 +75,7 @@ TEST_F(ChartStep, PlayerRowsStandStillAndRowTwentyIsARivalRow) {
     singles_phase(g);
     EXPECT_EQ(at(20), "The Wasps / Song 20: 100 10 50 300 5 20");
     tick(51);
-    chart_step(g);
-    EXPECT_EQ(g.rnd.queued_left(), 0u);
+    exactly([&] { chart_step(g); });
     EXPECT_EQ(at(20), "The Wasps / Song 20: 101 11 50 299 303 5");
     EXPECT_EQ(at(5), row5);
 }
