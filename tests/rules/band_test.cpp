@@ -32,9 +32,8 @@ TEST_F(Applicants, NineDrawsInOrderAndTheSentenceWordForWord) {
     EXPECT_EQ(shown(), "Joanne Del Ray|Female|19 2 7 4 9 3");
     EXPECT_EQ(panel(),
               "Joanne Del Ray wants to join the band, she is a poor Vocalist, and is gorgeous!! ");
-    put(1, "Ann Vox");  // the lowest empty slot names the instrument; the ends of the ranges
-    put(2, "Bob Axe");
-    draws({0, 0, 0, 0, 0, 0, 0, 0, 0});
+    put(1, "Ann Vox"), put(2, "Bob Axe");  // the lowest empty slot names the instrument
+    draws({0, 0, 0, 0, 0, 0, 0, 0, 0});    // the ends of the ranges
     press();
     EXPECT_EQ(shown(), "Aaron Johnson|Male|17 1 1 1 1 1");
     EXPECT_EQ(panel(),

@@ -202,11 +202,8 @@ TEST_F(Singles, ReleaseTakes1500AndSetsDemandThenAFirstWeekUnderHighPromotion) {
 }
 
 TEST_F(Singles, RoyaltiesAreTwoFifthsOfTheSalesWithABoxForEverySingle) {
-    const int hype[] = {0, 0, 0, 100, 0}, demand[] = {0, 0, 0, 5, 0};
-    for (int k = 1; k <= 4; ++k) {
-        r.released[k] = -1, r.singlehype[k] = hype[k];
-        r.singledemand[k] = demand[k], r.chartsales[k] = 7 * k;
-    }
+    for (int k = 1; k <= 4; ++k) r.released[k] = -1, r.chartsales[k] = 7 * k;
+    r.singlehype[3] = 100, r.singledemand[3] = 5;
     // 1 copy, 3 copies, 5 + 20 copies, 4 copies; each then loses demand.
     picks({{1, 20}, {1, 100}, {3, 20}, {50, 100}, {20, 20}, {3, 100}, {4, 20}, {1, 100}});
     exactly([&] { singles_phase(g); });
