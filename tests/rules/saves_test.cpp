@@ -21,13 +21,14 @@ namespace {
 /// The byte offset of record n (counted from 1).
 const auto at = [](int record) { return static_cast<std::size_t>(record - 1) * 128; };
 
+/// A game started up in a fresh working directory, on the title screen.
+struct Saves : ::testing::Test, TempDir, TestGame {};
+
 // Record 1 the band's name, 3 popularity, 4 signed, 44 memberhappy(4), 56 chartlife(1), 132
 // chartlife(20) and again 704, 133 cash, 139 songweeks, 141 gamedate, 143 reserved, 703
 // chartdemand(70), 754 chartlife(70), 759 venueopen(5); behind each, filler of zeros.
-TEST(SaveLayout, KnownGameLandsInItsRecords) {
-    TestGame t;
-    t.new_game("Café", "Sam");
-    Module1& r = t.r;
+TEST_F(Saves, KnownGameLandsInItsRecords) {
+    new_game("Café", "Sam");
     r.popularity = 100, r.signed_ = r.venueopen[5] = r.memberhappy[4] = -1, r.chartlife[1] = 0x0102;
     r.chartlife[20] = 333, r.cash = -2, r.chartdemand[70] = 149, r.chartlife[70] = 250;
     const Bytes b = save_bytes(r);
@@ -60,8 +61,7 @@ TEST(SaveLayout, KnownGameLandsInItsRecords) {
     EXPECT_EQ(back, "a?");
 }
 
-TEST(SaveReading, CraftedFileIsTakenFieldByFieldAndDamagedOnesAreRefused) {
-    TestGame t;
+TEST_F(Saves, CraftedFileIsTakenFieldByFieldAndDamagedOnesAreRefused) {
     Bytes b(97152, 0);
     auto put = [&](int record, Bytes v) { std::copy(v.begin(), v.end(), b.begin() + at(record)); };
     for (int record : {1, 3, 6})  // filler is never looked at, whatever it holds
@@ -76,7 +76,7 @@ TEST(SaveReading, CraftedFileIsTakenFieldByFieldAndDamagedOnesAreRefused) {
     put(143, {0xFF, 0xFF});                          // reserved: ignored
     put(704, {9, 0});                                // the second chartlife(20) lasts
     put(755, {0xFF, 0xFF});
-    const auto loaded = parse_save(b, t.r);
+    const auto loaded = parse_save(b, r);
     ASSERT_TRUE(loaded);
     EXPECT_EQ(loaded->bandname + "|" + loaded->playername + "|" + loaded->songname[1],
               "Zoë||“Hi”!");
@@ -87,7 +87,7 @@ TEST(SaveReading, CraftedFileIsTakenFieldByFieldAndDamagedOnesAreRefused) {
     const Bytes good = b;
     put(5, {1, 0, 'A'});
     b.resize(at(5) + 3);
-    const Module1 cut = parse_save(b, t.r).value();
+    const Module1 cut = parse_save(b, r).value();
     EXPECT_EQ(str(cut.membername[1], cut.cash, cut.songweeks, cut.gamedate), "A 0 0 0");
 
     const double year_10000 = 2958466.0;
@@ -104,14 +104,11 @@ TEST(SaveReading, CraftedFileIsTakenFieldByFieldAndDamagedOnesAreRefused) {
     for (std::size_t k = 0; k < std::size(damage); ++k) {
         b = good;
         damage[k](b);
-        EXPECT_FALSE(parse_save(b, t.r).has_value()) << k;
+        EXPECT_FALSE(parse_save(b, r).has_value()) << k;
     }
 }
 
-/// A game started up in a fresh working directory, on the title screen.
-struct InTempDir : ::testing::Test, TempDir, TestGame {};
-
-TEST_F(InTempDir, FailingSaveKeepsTheOldSaveAndTheGame) {
+TEST_F(Saves, FailingSaveKeepsTheOldSaveAndTheGame) {
     new_game();
     std::string why;
     ASSERT_TRUE(write_save(r, slot_file(2), why));
@@ -135,7 +132,7 @@ TEST_F(InTempDir, FailingSaveKeepsTheOldSaveAndTheGame) {
 // The office's save (the box, and the load, are in the career scenario) and a load from the
 // title screen in the next run: captions, what each slot holds, the back button, and what the
 // load refreshes (the lists are checked after every click by the soak).
-TEST_F(InTempDir, SaveFromTheOfficeAndALoadFromTheTitleInTheNextRun) {
+TEST_F(Saves, SaveFromTheOfficeAndALoadFromTheTitleInTheNextRun) {
     new_game().r.cash = 1234;
     std::ofstream(slot_file(1)).flush();            // empty, as a slot's first start leaves it
     std::ofstream(slot_file(3)) << "\xC8\x00oops";  // a name longer than any record holds
@@ -169,7 +166,7 @@ TEST_F(InTempDir, SaveFromTheOfficeAndALoadFromTheTitleInTheNextRun) {
               "0 0 1 55 £ 1234");
 }
 
-TEST_F(InTempDir, NewGameRefusesNamesASaveCannotHold) {
+TEST_F(Saves, NewGameRefusesNamesASaveCannotHold) {
     port.queue_input(std::string(127, 'a'));
     click(g, "Form1", "New");
     EXPECT_EQ(take().back(), okbox("Names can be at most 126 characters.", true));
@@ -191,7 +188,7 @@ std::string samples(const std::vector<WeekSample>& weeks) {
     return out;
 }
 
-TEST_F(InTempDir, ALoadStartsANewStretchAndADamagedOrForeignHistoryIsLeftOut) {
+TEST_F(Saves, ALoadStartsANewStretchAndADamagedOrForeignHistoryIsLeftOut) {
     new_game();
     auto week_and_save = [&](int slot) {
         ASSERT_EQ(click(g, "main", "command6"), ClickResult::Done);
