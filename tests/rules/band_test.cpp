@@ -262,12 +262,12 @@ TEST_F(Training, PracticeStepsUpAtFourPointsTheTurnAsksAndTheUnhappyMember) {
 TEST_F(Training, LessonsNeedAPickNameTheSubjectOfTheSlotAndCost75) {
     click(g, "main", "label13");
     EXPECT_EQ(take(), Lines{okbox("Please select a band member")});
-    const char* offer[] = {"Ann Vox a Singing", "Bob Axe a Guitar", "Cy Low a Guitar",
-                           "Di Kit a Drums"};
+    const std::string offer[] = {"Ann Vox a Singing", "Bob Axe a Guitar", "Cy Low a Guitar",
+                                 "Di Kit a Drums"};
     for (int row = 0; row < 4; ++row)
-        EXPECT_EQ(lesson(row, false), Lines{yesno(std::string("It will cost £75 to give ") +
-                                                      offer[row] + " lesson. Go ahead?",
-                                                  false)});
+        EXPECT_EQ(
+            lesson(row, false),
+            Lines{yesno("It will cost £75 to give " + offer[row] + " lesson. Go ahead?", false)});
     r.practice[3] = 2, r.cash = 150;
     lesson(2, true);
     EXPECT_EQ(lesson(2, true).back(),  // the last 75 pounds
