@@ -272,7 +272,7 @@ TEST_F(Training, LessonsNeedAPickNameTheSubjectOfTheSlotAndCost75) {
     lesson(2, true);
     EXPECT_EQ(lesson(2, true).back(),  // the last 75 pounds
               memo("Mona", "Thanks to the lesson, Cy Low has become more talented!"));
-    EXPECT_EQ(str(r.membertalent[3], r.practice[3], g.forms.main.txtcash.caption), "4 0 £ 0");
+    EXPECT_EQ(str(r.membertalent[3], r.practice[3], f.txtcash.caption), "4 0 £ 0");
     ok_memos();
     r.cash = 74;  // asked first, refused after
     EXPECT_EQ(lesson(2, true).back(),
@@ -293,8 +293,7 @@ TEST_F(Training, HolidayRefusalsAndTheHolidayThatOnlyMovesTheDate) {
     yes();
     exactly([&] { click(g, "main", "holiday"); });
     EXPECT_TRUE(memos().empty());
-    EXPECT_EQ(str(happiness(), g.forms.main.txtdate.caption, g.forms.main.txtcash.caption),
-              "10 7 10 4 15/09/2001 £ 0");
+    EXPECT_EQ(str(happiness(), f.txtdate.caption, f.txtcash.caption), "10 7 10 4 15/09/2001 £ 0");
     EXPECT_EQ(str(r.memberill[2], r.tiredness, r.songweeks, g.main.applicantsseen), "3 3 5 2");
     r.membername[4] = "None", r.cash = 5000;
     exactly([&] { click(g, "main", "holiday"); });  // no update, so no applicant either

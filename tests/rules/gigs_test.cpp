@@ -113,22 +113,21 @@ TEST_F(GigsTest, OpenVenuesTheirFiguresAndTheApplication) {
 }
 
 TEST_F(GigsTest, TrackPicksClearingAndAShortListIsRefused) {
+    const GigForm& f = g.forms.gig;
     r.songcount = 4;
     open_and_book(1);
     lines.clear();
     add_tracks({1, 1, 3, 0, 2});
     EXPECT_EQ(boxes(), (Lines{okbox("This track is already on the list!"),
                               okbox("No more tracks can be added")}));
-    EXPECT_EQ(str(r.setlist[1], r.setlist[2], r.setlist[3], g.forms.gig.tracks[2].caption),
-              "2 4 1 3. Alpha");
+    EXPECT_EQ(str(r.setlist[1], r.setlist[2], r.setlist[3], f.tracks[2].caption), "2 4 1 3. Alpha");
     click(g, "gig", "command3");  // CLEAR LIST
-    EXPECT_EQ(str(g.gig.tracksadded, r.setlist[1], r.setlist[3], g.forms.gig.tracks[2].caption),
-              "0 0 0 ");
+    EXPECT_EQ(str(g.gig.tracksadded, r.setlist[1], r.setlist[3], f.tracks[2].caption), "0 0 0 ");
     add_tracks({2, 0});
     lines.clear();
     click(g, "gig", "command4");
     EXPECT_EQ(boxes(), Lines{okbox("You must have a full list of songs!")});
-    EXPECT_EQ(str(g.forms.gig.visible, r.popularity, r.cash), "1 100 3000");
+    EXPECT_EQ(str(f.visible, r.popularity, r.cash), "1 100 3000");
 }
 
 TEST_F(GigsTest, WorkedExampleFromBookingToOffice) {
