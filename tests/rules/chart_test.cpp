@@ -49,8 +49,7 @@ TEST_F(ChartStep, EachRowDrawsDemandFameAndLifeInTurn) {
 
 TEST_F(ChartStep, SpentRowsTakeANewRecordFromThePool) {
     r.rivalfame[0] = 13;
-    row(20, 100, 10, 30, 4);
-    row(70, 100, 10, 1, 4);
+    row(20, 100, 10, 30, 4), row(70, 100, 10, 1, 4);
     // Row 20 sells this week, runs out, and takes pool entry 0 with the lowest draws.
     picks({{1, 2}, {1, 5}, {1, 2}, {1, 3}, {30, 100}});
     picks({{1, 51}, {1, 100}, {1, 20}, {6, 20}, {45, 45}});

@@ -224,10 +224,9 @@ TEST_F(Saves, ALoadStartsANewStretchAndADamagedOrForeignHistoryIsLeftOut) {
         TestGame u;
         click(u.g, "Form1", "load");
         click(u.g, "savefrm", "load");
-        EXPECT_EQ(str(u.g.forms.savefrm.loaded, u.g.diary.size(), u.g.history.size(),
+        EXPECT_EQ(str(k, u.g.forms.savefrm.loaded, u.g.diary.size(), u.g.history.size(),
                       u.g.segments.size(), u.g.diary.back().text),
-                  "0 1 0 1 Game Loaded")
-            << k;
+                  str(k, "0 1 0 1 Game Loaded"));
     }
 }
 
