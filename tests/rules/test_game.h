@@ -68,8 +68,7 @@ struct Applicant {
     int talent = 1, charisma = 1, attitude = 1, looks = 1, creativity = 1;
 };
 
-class TestGame {
-  public:
+struct TestGame {
     Lines lines;
     ScriptedPort port{[this](const Shown& shown) { lines.push_back(shown); }};
     Game g{port};
