@@ -25,8 +25,7 @@ TEST_F(Turn, PromotionPricesWagesAndTheEarlyEndsOfShortMoney) {
     const std::string broke =
         "Bad new, Boss. We're out of cash, and that means we're out of a job!";
     const struct {
-        int level, cash;
-        bool band;
+        int level, cash, band;
         std::string after, memo;  // cash, popularity, date, game over, Music Chart
     } cases[] = {
         {1, -1, 0, "-1 0 37135 0 0", ""},       {1, 0, 0, "-100 3 37142 1 0", broke},
