@@ -21,7 +21,6 @@ Command ok(std::string_view line) {
 TEST(ParseLine, RefusedLinesSayWhy) {
     const std::pair<std::string, std::string> cases[] = {
         {"get cash # not a comment", "usage: get NAME [INDEX]"},
-        {"frobnicate", "unknown command frobnicate"},
         {std::string("ge\0t", 4), std::string("unknown command ge\0t", 20)},
         {"\"get\" cash", "unknown command \"get\""},
         {R"(input "abc)", "malformed string literal"},
@@ -55,13 +54,11 @@ TEST(ParseLine, WordsStringsIndexesDrawsAndAnswers) {
     Command c = ok("  click \t main.promote   2  \r");
     EXPECT_EQ(c.verb, Verb::Click);
     EXPECT_EQ(c.form + "." + c.control + " " + std::to_string(c.index), "main.promote 2");
-    EXPECT_EQ(ok("click main.command6").index, -1);
     EXPECT_EQ(ok(R"(input "  The  Wasps ")").text, "  The  Wasps ");
     EXPECT_EQ(ok(R"(input "say \"hi\" \\ \u00a3")").text, "say \"hi\" \\ \xC2\xA3");
     Command set = ok(R"(set membername 2 "Ann  Lee")");
     EXPECT_EQ(set.name + " " + std::to_string(set.index) + " " + set.value,
               R"(membername 2 "Ann  Lee")");
-    EXPECT_EQ(ok("set cash -5").value, "-5");
     EXPECT_EQ(ok("get membername 007").index, 7);
     // Past int, an index is still a number, only far out of bounds.
     Command big = ok("get membername 99999999999999999999999999");
@@ -70,9 +67,6 @@ TEST(ParseLine, WordsStringsIndexesDrawsAndAnswers) {
     c = ok("rnd 0 0.5 0.999999 1e-3 -0");
     EXPECT_EQ(c.draws, (std::vector<double>{0, 0.5, 0.999999, 0.001, 0}));
     EXPECT_FALSE(std::signbit(c.draws.back()));
-    EXPECT_EQ(ok("answer ok yes no").answers,
-              (std::vector<Answer>{Answer::Ok, Answer::Yes, Answer::No}));
-    EXPECT_FALSE(ok("automemo off").on);
     EXPECT_EQ(ok("input \"" + std::string(1 << 20, 'y') + "\"").text.size(), 1u << 20);
     std::string many = "rnd";
     for (int i = 0; i < 100000; ++i) many += " 0.5";
