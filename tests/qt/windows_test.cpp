@@ -433,9 +433,8 @@ class WindowsTest : public QObject {
             read_memos();
         };
         const auto tab_to = [&](const char* form, const char* key) {
-            QVERIFY(QTest::qWaitForWindowActive(h.view(form)));
             for (int i = 0; i < 40 && QApplication::focusWidget() != h.widget(form, key); ++i)
-                press(Qt::Key_Tab);
+                key_in(form, Qt::Key_Tab);
             QCOMPARE(QApplication::focusWidget(), h.widget(form, key));
         };
 
@@ -461,7 +460,7 @@ class WindowsTest : public QObject {
         QCOMPARE(h.widget("savefrm", "saveslot(0)")->toolTip(),
                  QString("Empty slot: no game saved here yet."));
         tab_to("savefrm", "save");
-        press(Qt::Key_Space);
+        key_in("savefrm", Qt::Key_Space);
         QCOMPARE(described.last(), QString("Tourvane: Game Saved"));
     }
 };
