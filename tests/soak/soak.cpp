@@ -25,9 +25,9 @@
 namespace tourvane {
 namespace {
 
-/// Throws the condition's own text, after `where`, when it does not hold.
-#define HOLDS(cond, where) \
-    if (!(cond)) throw std::runtime_error(std::string(where) + ": " #cond)
+/// Throws the condition's own text and line when it does not hold.
+#define HOLDS(cond) \
+    if (!(cond)) throw std::runtime_error("line " + std::to_string(__LINE__) + ": " #cond)
 
 bool within(long long v, long long lo, long long hi) {
     return v >= lo && v <= hi;
@@ -35,89 +35,75 @@ bool within(long long v, long long lo, long long hi) {
 bool is_boolean(Boolean b) {
     return b == kTrue || b == kFalse;
 }
-std::string at(const char* what, long long i) {
-    return what + std::to_string(i);
-}
 
 /// The checks on a game as it stands. Happiness may stand one point below 0 for each very bad
 /// gig so far, as each can make one member extremely unhappy.
 void check_state(Game& g, std::int64_t very_bad_gigs) {
     const Module1& r = g.rec;
-    HOLDS(r.membername[0].empty(), "membername(0)");
+    HOLDS(r.membername[0].empty());
     int first_vacant = 0;
     std::vector<std::string> filled;
     for (int s = 1; s <= kMemberSlots; ++s) {
-        const std::string slot = at("member slot ", s), &sex = r.membersex[s];
+        const std::string& sex = r.membersex[s];
         const bool vacant = is_vacant(r, s);
-        HOLDS(!r.membername[s].empty(), slot);
+        HOLDS(!r.membername[s].empty());
         if (!vacant) filled.push_back(r.membername[s]);
         if (vacant && first_vacant == 0) first_vacant = s;
         // An emptied slot keeps only its talent, which lessons bought for it may still raise.
-        HOLDS(r.membertalent[s] >= (vacant ? 0 : 1), slot);
+        HOLDS(r.membertalent[s] >= (vacant ? 0 : 1));
         for (auto [trait, top] : {std::pair{&r.membercharisma, 10},
                                   {&r.memberattitude, 10},
                                   {&r.memberlooks, 10},
                                   {&r.membercreativity, 3}})
-            HOLDS(vacant ? (*trait)[s] == 0 : within((*trait)[s], 1, top), slot);
-        HOLDS(vacant ? sex.empty() || sex == "0" : sex == "Male" || sex == "Female", slot);
-        HOLDS(vacant || (r.listslot[filled.size()] == s && within(r.memberage[s], 17, 22)), slot);
-        HOLDS(within(r.memberhappy[s], -very_bad_gigs, 10) && within(r.memberill[s], 0, 10), slot);
-        HOLDS(r.memberfriction[s] >= 0 && within(r.practice[s], 0, 3), slot);
+            HOLDS(vacant ? (*trait)[s] == 0 : within((*trait)[s], 1, top));
+        HOLDS(vacant ? sex.empty() || sex == "0" : sex == "Male" || sex == "Female");
+        HOLDS(vacant || (r.listslot[filled.size()] == s && within(r.memberage[s], 17, 22)));
+        HOLDS(within(r.memberhappy[s], -very_bad_gigs, 10) && within(r.memberill[s], 0, 10));
+        HOLDS(r.memberfriction[s] >= 0 && within(r.practice[s], 0, 3));
     }
-    HOLDS(within(r.vacancy, 1, kMemberSlots) && (!first_vacant || r.vacancy == first_vacant),
-          "band");
-    HOLDS(g.forms.main.members.rows == filled && within(g.main.selectedmember, 0, kMemberSlots),
-          "band list");
+    HOLDS(within(r.vacancy, 1, kMemberSlots) && (!first_vacant || r.vacancy == first_vacant));
+    HOLDS(g.forms.main.members.rows == filled && within(g.main.selectedmember, 0, kMemberSlots));
 
-    HOLDS(within(r.songcount, 0, kSongSlots) && r.nextsong == r.songcount, "songs");
-    HOLDS(r.songweeks == 10 || within(r.songweeks, 1, 7), "songs");
-    HOLDS(r.tiredness >= 0 && within(r.bestsong, 0, kSongSlots), "songs");
+    HOLDS(within(r.songcount, 0, kSongSlots) && r.nextsong == r.songcount);
+    HOLDS(r.songweeks == 10 || within(r.songweeks, 1, 7));
+    HOLDS(r.tiredness >= 0 && within(r.bestsong, 0, kSongSlots));
     std::vector<std::string> titles;
     for (int k = 1; k <= kSongSlots; ++k) {
         const bool written = k <= r.songcount;
         if (written) titles.push_back(r.songname[k]);
-        HOLDS(r.songname[k].empty() != written && (!written || r.songquality[k] >= 8),
-              at("song slot ", k));
-        HOLDS(is_boolean(r.released[k]) && (written || r.released[k] == kFalse),
-              at("song slot ", k));
+        HOLDS(r.songname[k].empty() != written && (!written || r.songquality[k] >= 8));
+        HOLDS(is_boolean(r.released[k]) && (written || r.released[k] == kFalse));
     }
-    HOLDS(g.forms.main.songlist.rows == titles && within(g.main.selectedsong, 0, kSongSlots),
-          "track list");
+    HOLDS(g.forms.main.songlist.rows == titles && within(g.main.selectedsong, 0, kSongSlots));
 
     for (int row = kFirstRivalRow; row <= kChartRows; ++row) {
-        const std::string chart = at("chart row ", row);
-        HOLDS(!r.chartband[row].empty() && !r.charttitle[row].empty(), chart);
-        HOLDS(r.chartdemand[row] >= 0 && r.chartfame[row] >= 0 && r.chartlife[row] > 0, chart);
+        HOLDS(!r.chartband[row].empty() && !r.charttitle[row].empty());
+        HOLDS(r.chartdemand[row] >= 0 && r.chartfame[row] >= 0 && r.chartlife[row] > 0);
     }
-    for (int row = 0; row <= kChartRows; ++row)
-        HOLDS(within(r.chartplace[row], 0, kChartRows), at("chart place ", row));
+    for (int row = 0; row <= kChartRows; ++row) HOLDS(within(r.chartplace[row], 0, kChartRows));
     for (int i = 0; i < static_cast<int>(r.rivalname.size()); ++i)
-        HOLDS(r.rivalname[i].empty() == (i > kChartRows - kFirstRivalRow), at("rival pool ", i));
+        HOLDS(r.rivalname[i].empty() == (i > kChartRows - kFirstRivalRow));
 
-    HOLDS(r.popularity >= -1 && g.main.applicantsseen >= 0, "week");
-    HOLDS(within(r.promotion, 0, 4) && within(r.interviewkind, 0, 2), "week");
-    HOLDS(is_boolean(r.signed_) && is_boolean(g.main.demosent), "week");
+    HOLDS(r.popularity >= -1 && g.main.applicantsseen >= 0);
+    HOLDS(within(r.promotion, 0, 4) && within(r.interviewkind, 0, 2));
+    HOLDS(is_boolean(r.signed_) && is_boolean(g.main.demosent));
     for (int v = 0; v <= kVenues; ++v)
-        HOLDS(is_boolean(r.venueopen[v]) && (v > 0 || r.venueopen[v] == kFalse), at("venue ", v));
+        HOLDS(is_boolean(r.venueopen[v]) && (v > 0 || r.venueopen[v] == kFalse));
     for (int i = 0; i < static_cast<int>(r.setlist.size()); ++i)
-        HOLDS(i >= 1 && i <= 3 ? within(r.setlist[i], 0, kSongSlots) : r.setlist[i] == 0,
-              at("set list ", i));
-    HOLDS(within(g.gig.tracksadded, 0, 3) && within(g.gig.gigvenue, 0, kVenues), "gig");
+        HOLDS(i >= 1 && i <= 3 ? within(r.setlist[i], 0, kSongSlots) : r.setlist[i] == 0);
+    HOLDS(within(g.gig.tracksadded, 0, 3) && within(g.gig.gigvenue, 0, kVenues));
     const double days = r.gamedate - kStartDate;
-    HOLDS(days >= 0 && days == static_cast<double>(static_cast<long long>(days) / 7 * 7),
-          "calendar");
+    HOLDS(days >= 0 && days == static_cast<double>(static_cast<long long>(days) / 7 * 7));
 
     if (g.ended) return;
     Forms& fs = g.forms;
-    HOLDS(fs.messageForm.visible == !g.memos.empty(), "memo screen");
-    HOLDS(g.game_over || fs.main.enabled == g.memos.empty(), "office");
-    HOLDS(!g.game_over || (!g.memos.empty() && g.memos.back().ends_game), "game over");
-    fs.each_form([&](FormState& form) {
-        HOLDS(!g.game_over || &form == &fs.messageForm || !form.enabled,
-              std::string("game over, ") + form.name);
-    });
+    HOLDS(fs.messageForm.visible == !g.memos.empty());
+    HOLDS(g.game_over || fs.main.enabled == g.memos.empty());
+    HOLDS(!g.game_over || (!g.memos.empty() && g.memos.back().ends_game));
+    fs.each_form(
+        [&](FormState& form) { HOLDS(!g.game_over || &form == &fs.messageForm || !form.enabled); });
     for (const Control* c : {&fs.main.members, &fs.main.songlist, &fs.gig.Combo1})
-        HOLDS(within(c->selected, -1, static_cast<long long>(c->rows.size()) - 1), c->name);
+        HOLDS(within(c->selected, -1, static_cast<long long>(c->rows.size()) - 1));
 }
 
 /// Every Integer, Long and Boolean of the game, flattened; Integers are scaled to the width of
@@ -223,12 +209,12 @@ struct Soak {
             for (std::int64_t idle_clicks = 0; !g.ended && weeks < until;) {
                 const std::vector<Choice> choices = usable_controls(g, thrifty);
                 const auto weights = choices | std::views::transform(&Choice::weight);
-                HOLDS(!choices.empty(), "no control takes clicks, yet the game goes on");
+                HOLDS(!choices.empty());  // some control takes clicks while the game goes on
                 const std::int64_t weeks_before = weeks;
                 step(g, choices[std::discrete_distribution<std::size_t>(weights.begin(),
                                                                         weights.end())(pick)]);
                 idle_clicks = weeks == weeks_before ? idle_clicks + 1 : 0;
-                HOLDS(idle_clicks <= 100'000, "the calendar stood still 100000 clicks");
+                HOLDS(idle_clicks <= 100'000);  // the calendar moves now and then
             }
         }
     }
@@ -250,7 +236,7 @@ struct Soak {
                         (c.index >= 0 ? " " + std::to_string(c.index) : ""));
         if (trail.size() > 12) trail.pop_front();
 
-        HOLDS(result == ClickResult::Done, "a control a person could click refused the click");
+        HOLDS(result == ClickResult::Done);  // a control a person could click takes the click
         if (form == "main" && control == "command6" && r.gamedate > date_before)
             weeks += static_cast<std::int64_t>((r.gamedate - date_before) / 7);
         const bool gig_played =
@@ -265,25 +251,23 @@ struct Soak {
             // A save holds the very game saved and loads back to it; a load holds its file.
             ++(saved ? saves : loads);
             const auto bytes = read_file(slot_file(slot), kSaveBytes + 1);
-            HOLDS(bytes && *bytes == save_bytes(r), at("the game differs from save slot ", slot));
+            HOLDS(bytes && *bytes == save_bytes(r));
             if (saved && r.gamedate >= kFirstDay && r.gamedate <= kLastDay) {
                 const auto back = parse_save(*bytes, r);
-                HOLDS(back && save_bytes(*back) == *bytes, at("does not load back: slot ", slot));
+                HOLDS(back && save_bytes(*back) == *bytes);
             }
         }
         if (!loaded) {
             // Saturating arithmetic stops at the end of a number's width, so a field leaping
             // from near one end to near the other has wrapped.
-            HOLDS(r.gamedate >= date_before, "calendar");
+            HOLDS(r.gamedate >= date_before);
             for (int s = 1; s <= kMemberSlots; ++s)
-                HOLDS(gig_played || happy_before[s] < 0 || r.memberhappy[s] >= 0,
-                      at("happiness of slot ", s));
+                HOLDS(gig_played || happy_before[s] < 0 || r.memberhappy[s] >= 0);
             const std::int64_t half = std::numeric_limits<Long>::max() / 2;
             const std::vector<std::int64_t> now = numbers(g);
             for (std::size_t k = 0; k < now.size(); ++k) {
                 const std::int64_t was = numbers_before[k], is = now[k];
-                HOLDS(!((was > half && is < -half) || (was < -half && is > half)),
-                      at("number ", static_cast<long long>(k)) + " from " + std::to_string(was));
+                HOLDS(!((was > half && is < -half) || (was < -half && is > half)));
             }
         }
         check_state(g, very_bad_gigs);
