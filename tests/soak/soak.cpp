@@ -121,13 +121,12 @@ std::vector<std::int64_t> numbers(Game& g) {
 
 /// Answers every box at random: OK boxes with OK, Yes/No boxes with either, and the name
 /// prompts with a name that may well be refused.
-class RandomAnswers final : public ScriptedPort {
-  public:
-    explicit RandomAnswers(std::mt19937_64& pick) : pick_(pick) {}
+struct RandomAnswers final : ScriptedPort {
+    explicit RandomAnswers(std::mt19937_64& draw) : pick(draw) {}
+    std::mt19937_64& pick;
 
     Answer msgbox(std::string_view text, Buttons buttons, bool critical) override {
-        queue_answer(buttons == Buttons::Ok ? Answer::Ok
-                                            : (pick_() % 2 ? Answer::Yes : Answer::No));
+        queue_answer(buttons == Buttons::Ok ? Answer::Ok : (pick() % 2 ? Answer::Yes : Answer::No));
         return ScriptedPort::msgbox(text, buttons, critical);
     }
 
@@ -135,15 +134,12 @@ class RandomAnswers final : public ScriptedPort {
         // Cancel, a letter a save can't hold, one letter too long, Western letters that
         // round-trip, and plain names.
         static const char* odd[] = {"", "\xce\xa9mega", nullptr, "Caf\xc3\xa9 \xe2\x82\xac"};
-        const auto k = pick_() % 20;
-        queue_input(k >= 4   ? "Band " + std::to_string(pick_() % 1000)
+        const auto k = pick() % 20;
+        queue_input(k >= 4   ? "Band " + std::to_string(pick() % 1000)
                     : odd[k] ? odd[k]
                              : std::string(127, 'x'));
         return ScriptedPort::inputbox(prompt, title);
     }
-
-  private:
-    std::mt19937_64& pick_;
 };
 
 struct Choice {
