@@ -3,9 +3,7 @@
 
 Layers, bottom to top: core/, rules/, flow/, app/. A file may include its own layer and those
 below; within a layer the folders include each other without a cycle."""
-import os
-import re
-import sys
+import os, re, sys
 from graphlib import CycleError, TopologicalSorter
 
 LAYERS = ["core", "rules", "flow", "app"]
@@ -14,9 +12,7 @@ include = re.compile(r'^\s*#\s*include\s+"([^"]+)"', re.M)
 graph, faults = {}, []
 for layer in LAYERS:
     for base, _, files in os.walk(os.path.join(root, layer)):
-        for name in files:
-            if not name.endswith((".h", ".cpp")):
-                continue
+        for name in (n for n in files if n.endswith((".h", ".cpp"))):
             path = os.path.relpath(os.path.join(base, name), root)
             here = os.path.dirname(path)
             graph.setdefault(here, set())

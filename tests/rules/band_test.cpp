@@ -7,19 +7,11 @@
 #include "rules/week/turn.h"
 #include "test_game.h"
 
-namespace tourvane {
+namespace tourvane::testing {
 namespace {
 
-using testing::Lines;
-using testing::memo;
-using testing::Rows;
-using testing::str;
-using testing::yesno;
-
-class Applicants : public ::testing::Test, protected testing::TestGame {
-  protected:
+struct Applicants : NewGame {
     OfficeForm& f = g.forms.main;
-    void SetUp() override { new_game(); }
     const std::string& panel() { return f.txtapplicant.caption; }
     /// Clicks (or updates, with no control) taking exactly the draws queued before.
     void press(const char* control = nullptr) {
@@ -40,9 +32,8 @@ TEST_F(Applicants, NineDrawsInOrderAndTheSentenceWordForWord) {
     EXPECT_EQ(shown(), "Joanne Del Ray|Female|19 2 7 4 9 3");
     EXPECT_EQ(panel(),
               "Joanne Del Ray wants to join the band, she is a poor Vocalist, and is gorgeous!! ");
-    put(1, "Ann Vox");  // the lowest empty slot names the instrument; the ends of the ranges
-    put(2, "Bob Axe");
-    draws({0, 0, 0, 0, 0, 0, 0, 0, 0});
+    put(1, "Ann Vox"), put(2, "Bob Axe");  // the lowest empty slot names the instrument
+    draws({0, 0, 0, 0, 0, 0, 0, 0, 0});    // the ends of the ranges
     press();
     EXPECT_EQ(shown(), "Aaron Johnson|Male|17 1 1 1 1 1");
     EXPECT_EQ(panel(),
@@ -70,14 +61,10 @@ TEST_F(Applicants, NineDrawsInOrderAndTheSentenceWordForWord) {
 }
 
 TEST_F(Applicants, ThreeDismissalsThenTheFourthIsRefusedForTheWeek) {
-    for (int n = 1; n <= 3; ++n) {
-        applicant({.forename = n});
-        press("dismiss");
-    }
+    for (int n = 1; n <= 3; ++n) applicant({.forename = n}), press("dismiss");
     EXPECT_EQ(panel().rfind("Ben Johnson wants", 0), 0u);
     press("dismiss");
-    EXPECT_EQ(memos(), Lines{memo("Dave", "There are no more applicants this week, Boss.")});
-    ok_memos();
+    said({memo("Dave", "There are no more applicants this week, Boss.")});
     EXPECT_EQ(str(panel(), f.hire.enabled, f.dismiss.enabled), " 0 0");
     applicant();
     press();  // any update reopens the panel, but the count stays at 3
@@ -114,27 +101,31 @@ TEST_F(Applicants, HireAtThreeLetsTwoMoreDismissalsThroughThenTheWeekRunsDry) {
 }
 
 TEST_F(Applicants, MemoAtExactlyFiveComesAfterTheNextApplicantIsDrawn) {
-    const Lines no_more{memo("Dave", "Sorry Boss, no more applicants this week")};
     g.main.applicantsseen = 4;
     applicant({.forename = 4, .surname = 4});
     press("hire");
     EXPECT_EQ(panel().rfind("Bryan Jones wants", 0), 0u);
-    EXPECT_EQ(memos(), no_more);
-    ok_memos();
+    said({memo("Dave", "Sorry Boss, no more applicants this week")});
     press("hire");  // the one on show can still be hired
     EXPECT_EQ(str(r.membername[2], panel()), "Bryan Jones No Applicants");
     EXPECT_TRUE(memos().empty());
 }
 
-class Roster : public testing::Office {
-  protected:
+struct Roster : Office {
     OfficeForm& f = g.forms.main;
     void SetUp() override { listupdate(g), update(g); }
+    /// A lesson for the member of row `row`, answered Yes or No; the lines it raised.
+    Lines lesson(int row, bool go) {
+        click(g, "main", "members", row);
+        go ? yes() : no();
+        click(g, "main", "label13");
+        return take();
+    }
 };
 
 TEST_F(Roster, ListClosesGapsAndARowFillsThePanel) {
     dblclick(g, "main", "members");  // nobody picked yet
-    EXPECT_EQ(take(), Lines{testing::okbox("Please select a band member")});
+    EXPECT_EQ(take(), Lines{okbox("Please select a band member")});
     r.membername[2] = "None";
     put(3, "Cy Low", {.talent = 4, .charisma = 6, .attitude = 7, .looks = 8, .sex = "Female"});
     listupdate(g);
@@ -151,7 +142,7 @@ TEST_F(Roster, StatusMemoHasHappinessFrictionAndIllness) {
     const std::string content = "Bob Axe is content.  The other band members seem to get on OK ";
     const std::string quite = "Bob Axe is quite happy.  The other band members just about tolerate";
     const struct {
-        int happy, friction, ill;
+        Integer happy, friction, ill;
         const char* sex;
         std::string text;
     } cases[] = {
@@ -169,12 +160,10 @@ TEST_F(Roster, StatusMemoHasHappinessFrictionAndIllness) {
          "ill at the moment. He should be fit again in 10 weeks."},
     };
     for (const auto& c : cases) {
-        r.memberhappy[2] = static_cast<Integer>(c.happy);
-        r.memberfriction[2] = static_cast<Integer>(c.friction);
-        r.memberill[2] = static_cast<Integer>(c.ill), r.membersex[2] = c.sex;
+        r.memberhappy[2] = c.happy, r.memberfriction[2] = c.friction, r.memberill[2] = c.ill;
+        r.membersex[2] = c.sex;
         dblclick(g, "main", "members", 1);
-        EXPECT_EQ(memos(), (Lines{memo("Dave", c.text)})) << c.happy;
-        ok_memos();
+        said({memo("Dave", c.text)});
     }
 }
 
@@ -199,10 +188,8 @@ TEST_F(Roster, SackedMemberWithFrictionLiftsTheOthersAndLeavesTheSlotHalfKept) {
     EXPECT_EQ(member(2), "None|0|20 0 0 0 0 0 4 2");
     EXPECT_EQ(str(r.memberill[2], r.practice[2], r.vacancy), "2 3 2");
     EXPECT_EQ(f.members.rows, (Rows{"Ann Vox", "Cy Low", "Di Kit"}));
-    EXPECT_EQ(f.txtapplicant.caption.rfind("Adam Jones wants to join the band, he is a "
-                                           "reasonable Guitar",
-                                           0),
-              0u);
+    EXPECT_EQ(f.txtapplicant.caption.substr(0, 60),
+              "Adam Jones wants to join the band, he is a reasonable Guitar");
 }
 
 TEST_F(Roster, LeaverWithoutFrictionCostsEveryoneFourAndPopularityStopsAtZero) {
@@ -239,31 +226,34 @@ TEST_F(Roster, WalkOutCarriesALaterMemberAndLeavesTheEmptySlotPicked) {
     EXPECT_EQ(memos(), (Lines{memo("Mona", "Ann Vox" + shock), memo("Mona", "Cy Low" + shock)}));
 }
 
-class Training : public testing::Office {
-  protected:
-    void SetUp() override { listupdate(g), update(g); }
-    /// A lesson for the member of row `row`, answered Yes or No; the lines it raised.
-    Lines lesson(int row, bool go) {
-        click(g, "main", "members", row);
-        go ? yes() : no();
-        click(g, "main", "label13");
-        return take();
-    }
-};
+using Training = Roster;
 
-TEST_F(Training, PracticeStepsUpAtFourPoints) {
-    const Lines better{
-        memo("Dave", "Good news, Boss. Thanks to practising, Bob Axe has become more talented!")};
+TEST_F(Training, PracticeStepsUpAtFourPointsTheTurnAsksAndTheUnhappyMember) {
+    const Shown better =
+        memo("Dave", "Good news, Boss. Thanks to practising, Bob Axe has become more talented!");
     const int cases[][4] = {
         {3, 2, 0, 4}, {3, 1, 0, 4}, {2, 1, 3, 3}};  // points, drawn, after, talent
     for (const auto& [before, drawn, after, talent] : cases) {
-        r.practice[2] = static_cast<Integer>(before), r.membertalent[2] = 3, r.tiredness = 0;
+        r.practice[2] = before, r.membertalent[2] = 3, r.tiredness = 0;
         picks({{2, 4}, {drawn, 2}});  // the guitarist
         exactly([&] { practise(g); });
         EXPECT_EQ(str(r.practice[2], r.membertalent[2], r.tiredness), str(after, talent, 2));
-        EXPECT_EQ(memos(), talent == 4 ? better : Lines{});
-        ok_memos();
+        said(talent == 4 ? Lines{better} : Lines{});
     }
+    // The turn asks; Yes draws a member and a point, a tired band is asked again.
+    r.practice[2] = r.tiredness = 0, r.memberhappy[3] = 1;
+    yes();
+    picks({{2, 4}, {1, 2}});  // the guitarist gains one point
+    command6(g);
+    EXPECT_EQ(str(r.practice[2], r.tiredness), "1 1");  // 2 from practice, 1 off at once
+    EXPECT_EQ(memos().front(), memo("Steven", "Cy Low is unhappy."));
+    ok_memos();
+    yes();
+    no();  // tired: not this week
+    command6(g);
+    EXPECT_EQ(take()[1], yesno("The band is tired, make them practise anyway?", false));
+    EXPECT_EQ(str(r.practice[2] + r.tiredness, r.membername[3]), "1 Cy Low");
+    ok_memos();
     r.membername[3] = "None";  // no practice offered to a band with an empty slot
     command6(g);
     for (const Shown& s : take()) EXPECT_NE(s.kind, Shown::Kind::Box) << s.text;
@@ -271,18 +261,18 @@ TEST_F(Training, PracticeStepsUpAtFourPoints) {
 
 TEST_F(Training, LessonsNeedAPickNameTheSubjectOfTheSlotAndCost75) {
     click(g, "main", "label13");
-    EXPECT_EQ(take(), Lines{testing::okbox("Please select a band member")});
-    const char* offer[] = {"Ann Vox a Singing", "Bob Axe a Guitar", "Cy Low a Guitar",
-                           "Di Kit a Drums"};
+    EXPECT_EQ(take(), Lines{okbox("Please select a band member")});
+    const std::string offer[] = {"Ann Vox a Singing", "Bob Axe a Guitar", "Cy Low a Guitar",
+                                 "Di Kit a Drums"};
     for (int row = 0; row < 4; ++row)
-        EXPECT_EQ(lesson(row, false), Lines{yesno(std::string("It will cost £75 to give ") +
-                                                      offer[row] + " lesson. Go ahead?",
-                                                  false)});
+        EXPECT_EQ(
+            lesson(row, false),
+            Lines{yesno("It will cost £75 to give " + offer[row] + " lesson. Go ahead?", false)});
     r.practice[3] = 2, r.cash = 150;
     lesson(2, true);
     EXPECT_EQ(lesson(2, true).back(),  // the last 75 pounds
               memo("Mona", "Thanks to the lesson, Cy Low has become more talented!"));
-    EXPECT_EQ(str(r.membertalent[3], r.practice[3], g.forms.main.txtcash.caption), "4 0 £ 0");
+    EXPECT_EQ(str(r.membertalent[3], r.practice[3], f.txtcash.caption), "4 0 £ 0");
     ok_memos();
     r.cash = 74;  // asked first, refused after
     EXPECT_EQ(lesson(2, true).back(),
@@ -293,8 +283,7 @@ TEST_F(Training, LessonsNeedAPickNameTheSubjectOfTheSlotAndCost75) {
 TEST_F(Training, HolidayRefusalsAndTheHolidayThatOnlyMovesTheDate) {
     r.cash = 299;
     click(g, "main", "holiday");
-    EXPECT_EQ(take(), Lines{memo("Dave", "We can't afford to book a holiday at this time.")});
-    ok_memos();
+    said({memo("Dave", "We can't afford to book a holiday at this time.")});
     r.cash = 300;
     no();
     click(g, "main", "holiday");
@@ -304,8 +293,7 @@ TEST_F(Training, HolidayRefusalsAndTheHolidayThatOnlyMovesTheDate) {
     yes();
     exactly([&] { click(g, "main", "holiday"); });
     EXPECT_TRUE(memos().empty());
-    EXPECT_EQ(str(happiness(), g.forms.main.txtdate.caption, g.forms.main.txtcash.caption),
-              "10 7 10 4 15/09/2001 £ 0");
+    EXPECT_EQ(str(happiness(), f.txtdate.caption, f.txtcash.caption), "10 7 10 4 15/09/2001 £ 0");
     EXPECT_EQ(str(r.memberill[2], r.tiredness, r.songweeks, g.main.applicantsseen), "3 3 5 2");
     r.membername[4] = "None", r.cash = 5000;
     exactly([&] { click(g, "main", "holiday"); });  // no update, so no applicant either
@@ -314,70 +302,49 @@ TEST_F(Training, HolidayRefusalsAndTheHolidayThatOnlyMovesTheDate) {
     EXPECT_EQ(r.gamedate, 37149.0);
 }
 
-const char* const kRadio[] = {
-    "The band interview went less well than expected",
-    "The band interview went OK, but i think we could do better next time.",
-    "The Interview went really well, the band seem very pleased!"};
-const char* const kCable[] = {"The bands appearance on a cable music show was quite poor.",
-                              "The band interview on a cable T.V show went o.k",
-                              "The bands appearance on a cable T.V show was fantastic!"};
+// Interviews from popularity 100: each member draws charisma (and, on cable, looks: one pick of
+// 2 a slot) in slot order; radio adds a last draw of 5 to 24. Exactly 20 and 60 say nothing.
+using Interviews = Office;
 
-class Interviews : public ::testing::Test, protected testing::TestGame {
-  protected:
-    void SetUp() override { new_game(); }
-    /// Takes up an invitation of `kind` from popularity 100 with the draws queued; expects
-    /// exactly those taken, the memo given (or none) and the popularity gained.
-    void expect(int kind, const char* text, int gain) {
-        r.interviewkind = static_cast<Integer>(kind), r.popularity = 100;
-        g.forms.main.interview.enabled = true;
-        exactly([&] { EXPECT_EQ(click(g, "main", "interview"), ClickResult::Done); });
-        EXPECT_EQ(memos(), text ? Lines{testing::memo("Mona", text)} : Lines{});
-        EXPECT_EQ(r.popularity, 100 + gain);
-        EXPECT_FALSE(g.forms.main.interview.enabled);
-        ok_memos();
-    }
-    /// Radio draws: each charisma roll Int(Rnd()*n) gives `drawn`, the bonus roll `bonus`.
-    void radio(int drawn, int n, int bonus) {
-        for (int s = 0; s < 4; ++s) pick(drawn + 1, n);
-        pick(bonus + 1, 20);
-    }
-};
-
-TEST_F(Interviews, RadioScoresAndTheSilentTwentyAndSixty) {
+TEST_F(Interviews, RadioAndCableScoresAndTheSilentTwentyAndSixty) {
+    const char* radio[] = {"The band interview went less well than expected",
+                           "The band interview went OK, but i think we could do better next time.",
+                           "The Interview went really well, the band seem very pleased!"};
+    const char* cable[] = {"The bands appearance on a cable music show was quite poor.",
+                           "The band interview on a cable T.V show went o.k",
+                           "The bands appearance on a cable T.V show was fantastic!"};
+    const struct {
+        int kind, charisma, attitude, ann_attitude, pick, bonus, gain;
+        const char *looks, *text;
+    } cases[] = {
+        {1, 6, 4, 4, 4, 10, 13, "", radio[1]},       // 4 * (3 + 1 + 6) + 10 + 5 = 55
+        {1, 1, 10, 10, 1, 0, 2, "", radio[0]},       // 9, the least a radio interview can score
+        {1, 1, 10, 10, 1, 11, 5, "", nullptr},       // 20
+        {1, 1, 10, 10, 1, 12, 5, "", radio[1]},      // 21
+        {1, 4, 1, 1, 4, 3, 15, "", nullptr},         // 36 + 16 + 8 = 60
+        {1, 4, 1, 1, 4, 4, 15, "", radio[2]},        // 61
+        {2, 10, 7, 7, 1, 0, 5, "1111", nullptr},     // 4 * (1 + 1 + 3) = 20
+        {2, 10, 7, 7, 7, 0, 12, "2222", cable[1]},   // 4 * (7 + 2 + 3) = 48
+        {0, 10, 7, 7, 1, 0, 5, "2111", cable[1]},    // any kind but radio: 21
+        {3, 10, 7, 8, 1, 0, 4, "1111", cable[0]},    // 19
+        {2, 10, 7, 6, 10, 0, 15, "2222", cable[2]},  // 16 + 3 * 15 = 61
+    };
     EXPECT_EQ(click(g, "main", "interview"), ClickResult::NotUsableNow);  // no invitation yet
-    full_band({.charisma = 6, .attitude = 4});
-    radio(3, 6, 10);  // 4 * (3 + 1 + 6) + 10 + 5 = 55
-    expect(1, kRadio[1], 13);
-    EXPECT_EQ(click(g, "main", "interview"), ClickResult::NotUsableNow);
-    full_band({.charisma = 1, .attitude = 10});  // 1 a member from charisma
-    radio(0, 1, 0);
-    expect(1, kRadio[0], 2);  // 9, the least a radio interview can score
-    radio(0, 1, 11);
-    expect(1, nullptr, 5);  // 20
-    radio(0, 1, 12);
-    expect(1, kRadio[1], 5);                    // 21
-    full_band({.charisma = 4, .attitude = 1});  // 9 a member from attitude
-    radio(3, 4, 3);
-    expect(1, nullptr, 15);  // 36 + 16 + 8 = 60
-    radio(3, 4, 4);
-    expect(1, kRadio[2], 15);  // 61
-}
-
-TEST_F(Interviews, CableTakesCharismaThenLooksPerMemberAndNoBonus) {
-    full_band({.charisma = 10, .attitude = 7, .looks = 2});
-    for (int s = 0; s < 4; ++s) picks({{1, 10}, {1, 2}});
-    expect(2, nullptr, 5);  // 4 * (1 + 1 + 3) = 20
-    for (int s = 0; s < 4; ++s) picks({{7, 10}, {2, 2}});
-    expect(2, kCable[1], 12);  // 4 * (7 + 2 + 3) = 48
-    for (int s = 0; s < 4; ++s) picks({{1, 10}, {s == 0 ? 2 : 1, 2}});
-    expect(0, kCable[1], 5);  // any kind but radio: 21
-    r.memberattitude[1] = 8;
-    for (int s = 0; s < 4; ++s) picks({{1, 10}, {1, 2}});
-    expect(3, kCable[0], 4);  // 19
-    r.memberattitude[1] = 6;
-    for (int s = 0; s < 4; ++s) picks({{10, 10}, {2, 2}});
-    expect(2, kCable[2], 15);  // 16 + 3 * 15 = 61
+    for (const auto& c : cases) {
+        full_band({.charisma = c.charisma, .attitude = c.attitude, .looks = 2});
+        r.memberattitude[1] = c.ann_attitude;
+        for (int s = 0; s < 4; ++s) {
+            pick(c.pick, c.charisma);
+            if (c.kind != 1) pick(c.looks[s] - '0', 2);
+        }
+        if (c.kind == 1) pick(c.bonus + 1, 20);
+        r.interviewkind = c.kind, r.popularity = 100, g.forms.main.interview.enabled = true;
+        exactly([&] { EXPECT_EQ(click(g, "main", "interview"), ClickResult::Done); });
+        said(c.text ? Lines{memo("Mona", c.text)} : Lines{});
+        EXPECT_EQ(r.popularity, 100 + c.gain) << c.kind << " " << c.gain;
+        EXPECT_EQ(click(g, "main", "interview"), ClickResult::NotUsableNow);
+    }
 }
 
 }  // namespace
-}  // namespace tourvane
+}  // namespace tourvane::testing

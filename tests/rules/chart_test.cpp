@@ -1,27 +1,18 @@
 // The music chart: the rival rows' weekly step, the chart screen's ranking and list, and the
 // rival bands file with where it is found and what it sets up.
-#include <fstream>
-
+#include "rules/music/chart.h"
 #include "rules/files/record_file.h"
 #include "rules/music/bands.h"
-#include "rules/music/chart.h"
 #include "rules/music/singles.h"
-#include "temp_dir.h"
 #include "test_game.h"
 
-namespace tourvane {
+namespace tourvane::testing {
 namespace {
 
-using Bytes = std::vector<std::uint8_t>;
-using testing::Lines;
-using testing::str;
-
-class ChartStep : public testing::Office {
-  protected:
+struct ChartStep : Office {
     void SetUp() override { calm_chart(); }
     void row(int i, int demand, int fame, int life, Long sales = 0) {
-        r.chartdemand[i] = static_cast<Integer>(demand);
-        r.chartfame[i] = static_cast<Integer>(fame), r.chartlife[i] = static_cast<Integer>(life);
+        r.chartdemand[i] = demand, r.chartfame[i] = fame, r.chartlife[i] = life,
         r.chartsales[i] = sales;
     }
     /// A row as "band / title: demand fame quality life sales last".
@@ -43,8 +34,7 @@ TEST_F(ChartStep, EachRowDrawsDemandFameAndLifeInTurn) {
     tick();
     picks({{2, 2}, {1, 5}, {1, 2}, {3, 3}, {1, 100}});
     tick(46);
-    chart_step(g);
-    EXPECT_EQ(g.rnd.queued_left(), 0u);
+    exactly([&] { chart_step(g); });
     EXPECT_EQ(at(21), "Rival 21 / Hit 21: 44 1 50 250 132 55");
     EXPECT_EQ(at(22), "Rival 22 / Hit 22: 0 0 50 299 0 9");
     EXPECT_EQ(at(23), "Rival 23 / Hit 23: 29 6 50 99 28 0");
@@ -59,8 +49,7 @@ TEST_F(ChartStep, EachRowDrawsDemandFameAndLifeInTurn) {
 
 TEST_F(ChartStep, SpentRowsTakeANewRecordFromThePool) {
     r.rivalfame[0] = 13;
-    row(20, 100, 10, 30, 4);
-    row(70, 100, 10, 1, 4);
+    row(20, 100, 10, 30, 4), row(70, 100, 10, 1, 4);
     // Row 20 sells this week, runs out, and takes pool entry 0 with the lowest draws.
     picks({{1, 2}, {1, 5}, {1, 2}, {1, 3}, {30, 100}});
     picks({{1, 51}, {1, 100}, {1, 20}, {6, 20}, {45, 45}});
@@ -69,8 +58,7 @@ TEST_F(ChartStep, SpentRowsTakeANewRecordFromThePool) {
     picks({{1, 2}, {1, 5}, {1, 2}, {1, 3}, {100, 100}});
     draws({0.99999999});
     picks({{100, 100}, {20, 20}, {20, 20}, {1, 45}});
-    chart_step(g);
-    EXPECT_EQ(g.rnd.queued_left(), 0u);
+    exactly([&] { chart_step(g); });
     EXPECT_EQ(at(20), "Pool 0 / Wild Love: 50 13 74 309 0 0");
     EXPECT_EQ(at(70), "Pool 50 / Shocked Feelings: 149 50 30 170 0 0");
 }
@@ -86,22 +74,18 @@ TEST_F(ChartStep, PlayerRowsStandStillAndRowTwentyIsARivalRow) {
     singles_phase(g);
     EXPECT_EQ(at(20), "The Wasps / Song 20: 100 10 50 300 5 20");
     tick(51);
-    chart_step(g);
-    EXPECT_EQ(g.rnd.queued_left(), 0u);
+    exactly([&] { chart_step(g); });
     EXPECT_EQ(at(20), "The Wasps / Song 20: 101 11 50 299 303 5");
     EXPECT_EQ(at(5), row5);
 }
 
 // The chart screen. Row i is "Band i" with "Title i" and sells i copies unless a test says
 // otherwise.
-class ChartScreen : public testing::Office {
-  protected:
+struct ChartScreen : Office {
     void SetUp() override {
         EXPECT_EQ(click(g, "main", "secret"), ClickResult::NotUsableNow);  // no full week yet
-        for (int i = 1; i <= 70; ++i) {
-            r.chartband[i] = "Band " + std::to_string(i);
-            r.charttitle[i] = "Title " + std::to_string(i), r.chartsales[i] = i;
-        }
+        for (int i = 1; i <= 70; ++i)
+            r.chartband[i] = str("Band", i), r.charttitle[i] = str("Title", i), r.chartsales[i] = i;
         g.forms.main.secret.enabled = true;
     }
     void open() { ASSERT_EQ(click(g, "main", "secret"), ClickResult::Done); }
@@ -117,7 +101,7 @@ class ChartScreen : public testing::Office {
     }
 };
 
-TEST_F(ChartScreen, AllSalesDifferentAndASnapshotUntilOk) {
+TEST_F(ChartScreen, AllSalesDifferentASnapshotUntilOkAndTiesToTheEarlierRowWhoseSalesRise) {
     open();
     EXPECT_TRUE(g.forms.Chart.visible && g.forms.main.usable());  // beside the office
     for (int i = 1; i <= 70; ++i) EXPECT_EQ(str(r.chartplace[i], r.chartsales[i]), str(71 - i, i));
@@ -132,11 +116,10 @@ TEST_F(ChartScreen, AllSalesDifferentAndASnapshotUntilOk) {
     EXPECT_EQ(click(g, "Chart", "command1"), ClickResult::NotUsableNow);
     open();
     EXPECT_EQ(str(top(3), r.chartsales[1]), "1 2 70 5001");
-}
+    Chart_command1(g);
 
-// Each case: the sales given, then row sales place after the ranking, then the top lines.
-// The later row writes a shared place last; a place nobody got keeps its "...".
-TEST_F(ChartScreen, TiesGoToTheEarlierRowWhoseSalesRise) {
+    // Each case: the sales given, then row sales place after the ranking, then the top lines.
+    // The later row writes a shared place last; a place nobody got keeps its "...".
     const struct {
         std::vector<std::pair<int, Long>> sales;
         std::string ranked, top;
@@ -163,80 +146,54 @@ TEST_F(ChartScreen, TiesGoToTheEarlierRowWhoseSalesRise) {
 Bytes numbered_bands() {
     RecordWriter w;
     for (int i = 0; i < kBandEntries; ++i) {
-        w.put_string("Band " + std::to_string(i));
-        w.put_integer(static_cast<Integer>(i));
-        w.put_string("Song " + std::to_string(i));
-        w.put_integer(static_cast<Integer>(30 + i));
-        w.put_integer(static_cast<Integer>(100 + i));
+        w.put_string(str("Band", i)), w.put_integer(Integer(i)), w.put_string(str("Song", i));
+        w.put_integer(Integer(30 + i)), w.put_integer(Integer(100 + i));
     }
     return w.take();
 }
 
-void write_all(const std::filesystem::path& p, const Bytes& b) {
-    std::ofstream(p, std::ios::binary)
-        .write(reinterpret_cast<const char*>(b.data()), static_cast<std::streamsize>(b.size()));
-}
-
-Bytes read_all(const std::filesystem::path& p) {
-    std::ifstream in(p, std::ios::binary);
-    return Bytes(std::istreambuf_iterator<char>(in), {});
-}
-
-/// True when rows 20 to 70 hold the built-in records.
-bool rows_are_builtin(const Module1& r) {
-    const auto table = parse_bands(builtin_bands());
-    for (int row = kFirstRivalRow; row <= kChartRows; ++row) {
-        const RivalEntry& e = (*table)[row - kFirstRivalRow];
-        if (r.chartband[row] != e.band || r.chartdemand[row] != e.demand) return false;
-    }
-    return true;
-}
-
-TEST(LoadBands, FillsRowsPoolAndLifeFromTheWorkingDirectory) {
-    testing::TempDir dir;
-    write_all("bands.dat", numbered_bands());
-    testing::TestGame t;  // start-up runs loadbands
+// Start-up reads bands.dat from the working directory; a missing, short or damaged file falls
+// back to the built-in copy, and a whole file further along the search path comes first.
+TEST(LoadBands, FillsRowsPoolAndLifeAndFallsBackToTheBuiltInCopy) {
+    TempDir dir;
+    std::string why;
+    ASSERT_TRUE(replace_file("bands.dat", numbered_bands(), why));
+    TestGame t;  // start-up runs loadbands
     const Module1& r = t.r;
-    for (int row = 20; row <= 70; ++row) {
-        const int i = row - 20;
-        EXPECT_EQ(r.chartband[row] + "/" + r.charttitle[row],
-                  "Band " + std::to_string(i) + "/Song " + std::to_string(i));
-        EXPECT_EQ(r.chartfame[row] + r.chartquality[row] + r.chartdemand[row], 130 + 3 * i);
-        EXPECT_EQ(r.chartlife[row], (30 + i) * 4 + i);
-    }
+    for (int row = 20, i = 0; row <= 70; ++row, ++i)
+        EXPECT_EQ(str(r.chartband[row], r.charttitle[row], r.chartfame[row], r.chartquality[row],
+                      r.chartdemand[row], r.chartlife[row]),
+                  str("Band", i, "Song", i, i, 30 + i, 100 + i, (30 + i) * 4 + i));
     EXPECT_EQ(r.rivalname[0] + r.rivalname[50], "Band 0Band 50");
     EXPECT_EQ(r.rivalfame[50], 50);
     for (int i = 51; i <= 60; ++i) EXPECT_EQ(r.rivalname[i] + std::to_string(r.rivalfame[i]), "0");
     for (int row = 0; row < 20; ++row)
         EXPECT_EQ(r.chartband[row] + std::to_string(r.chartlife[row]), "0");
-}
 
-TEST(LoadBands, MissingShortOrDamagedFilesFallBackToTheBuiltInCopy) {
-    testing::TempDir dir;
+    Game& g = t.g;
     ScriptedPort port;
-    Game g(port);
+    Game builtin(port);
+    loadbands_from(builtin, {});
+    std::filesystem::remove("bands.dat");
     const std::vector<std::filesystem::path> here{"bands.dat"};
-    EXPECT_FALSE(loadbands_from(g, here));
-    EXPECT_TRUE(rows_are_builtin(g.rec));
-    EXPECT_FALSE(std::filesystem::exists("bands.dat"));  // nothing is created
-    Bytes short_file = numbered_bands();
+    Bytes short_file = numbered_bands(), damaged = numbered_bands();
     short_file.pop_back();
-    write_all("bands.dat", short_file);
-    EXPECT_FALSE(loadbands_from(g, here));
-    EXPECT_TRUE(rows_are_builtin(g.rec));
-    Bytes damaged = numbered_bands();
     damaged[128 * 5 * 30] = 127;  // the band of entry 30 claims 127 bytes
-    write_all("bands.dat", damaged);
-    EXPECT_FALSE(loadbands_from(g, here));
-    EXPECT_TRUE(rows_are_builtin(g.rec));
-    EXPECT_EQ(read_all("bands.dat"), damaged);  // only read, never written
-    // A whole file further along the search path is taken before the built-in copy.
+    for (const Bytes& file : {Bytes{}, short_file, damaged}) {  // missing, short, damaged
+        ASSERT_TRUE(file.empty() || replace_file("bands.dat", file, why)) << why;
+        EXPECT_FALSE(loadbands_from(g, here));
+        EXPECT_TRUE(g.rec.chartband == builtin.rec.chartband);
+        EXPECT_TRUE(g.rec.chartdemand == builtin.rec.chartdemand);
+        // Only read, never written; and nothing is created.
+        EXPECT_EQ(read_file("bands.dat", 1 << 20),
+                  file.empty() ? std::nullopt : std::optional(file));
+    }
     std::filesystem::create_directory("share");
-    write_all("share/bands.dat", numbered_bands());
+    ASSERT_TRUE(replace_file("share/bands.dat", numbered_bands(), why));
     EXPECT_EQ(loadbands_from(g, {"bands.dat", "missing/bands.dat", "share/bands.dat"}),
               std::filesystem::path("share/bands.dat"));
     EXPECT_EQ(g.rec.chartband[70], "Band 50");
 }
 
 }  // namespace
-}  // namespace tourvane
+}  // namespace tourvane::testing

@@ -6,65 +6,50 @@
 #include "rules/week/turn.h"
 #include "test_game.h"
 
-namespace tourvane {
+namespace tourvane::testing {
 namespace {
-
-using testing::Lines;
-using testing::memo;
-using testing::okbox;
-using testing::Rows;
-using testing::str;
 
 const Shown kStarted = memo("Dave", "Good news, Boss. The band has started writing a new song!");
 const Shown kFinished = memo("Dave", "The band has finished writing a new song!");
 
-class Songs : public testing::Office {
-  protected:
-    /// Record Song, then the lines it raised, with its memos acknowledged.
-    Lines record() {
-        click(g, "main", "command1");
-        ok_memos();
-        return take();
-    }
-};
+using Songs = Office;
 
-TEST_F(Songs, RefusalsComeInOrderAndChangeNothing) {
-    const Lines limit{testing::okbox("You have reached the limit of 20 songs!")};
+TEST_F(Songs, RefusalsComeInOrderAndChangeNothingThenTheSongStarts) {
+    const Lines limit{okbox("You have reached the limit of 20 songs!")};
     r.membername[2] = r.membername[4] = "None", r.songweeks = 5, r.songcount = 20;
     draws({0.5});  // must stay undrawn
-    EXPECT_EQ(record(), limit);
+    EXPECT_EQ(office("command1"), limit);
     r.songcount = 19;
-    EXPECT_EQ(record(), Lines{memo("Dave", "The band is currently working on a song.")});
+    EXPECT_EQ(office("command1"), Lines{memo("Dave", "The band is currently working on a song.")});
     r.songweeks = 10;
-    EXPECT_EQ(record(), Lines{memo("Dave", "You need a full band to write a song, Boss")});
+    EXPECT_EQ(office("command1"),
+              Lines{memo("Dave", "You need a full band to write a song, Boss")});
     full_band();
     r.songcount = 20;
-    EXPECT_EQ(record(), limit);
+    EXPECT_EQ(office("command1"), limit);
     EXPECT_EQ(str(r.songweeks, g.rnd.queued_left()), "10 1");
-}
-
-TEST_F(Songs, RestedBandStartsAtOnceTiredBandIsAskedAndYesCostsHappiness) {
+    // A rested band starts at once; a tired band is asked, and Yes costs happiness.
+    g.rnd.clear_queue(), r.songcount = 3;
     for (int k : {1, 4}) {
         r.songweeks = 10;
         pick(k, 4);
-        EXPECT_EQ(record(), Lines{kStarted});
+        EXPECT_EQ(office("command1"), Lines{kStarted});
         EXPECT_EQ(r.songweeks, k + 3);  // four to seven weeks
     }
     const std::string ask =
         "The band wants a rest before starting on a new song. Make them record anyway?";
-    const Shown tired = testing::yesno(ask, false);
     r.tiredness = 1, r.songweeks = 10;
     set_happy(1, 10, 5, 0);
     pick(2, 4);
     no();
-    EXPECT_EQ(record(), Lines{tired});
+    EXPECT_EQ(office("command1"), Lines{yesno(ask, false)});
     EXPECT_EQ(str(happiness(), r.songweeks), "1 10 5 0 10");
     yes();
-    EXPECT_EQ(record(), (Lines{testing::yesno(ask, true), kStarted}));
+    EXPECT_EQ(office("command1"), (Lines{yesno(ask, true), kStarted}));
     EXPECT_EQ(str(happiness(), r.songweeks, r.tiredness, r.cash), "0 9 4 0 5 1 3000");
 }
 
-TEST_F(Songs, MakesongDrawsQualityInSlotOrderThenTirednessThenTitle) {
+TEST_F(Songs, MakesongDrawsQualityInSlotOrderThenTirednessThenTitleAndTheTurnCallsIt) {
     // Slot 2 was left mid-song: its talent and creativity of 0 count 1 each.
     put(1, "Ann Vox", {.talent = 5, .creativity = 3});
     r.membername[2] = "None", r.membertalent[2] = r.membercreativity[2] = 0;
@@ -77,20 +62,18 @@ TEST_F(Songs, MakesongDrawsQualityInSlotOrderThenTirednessThenTitle) {
     picks({{2, 4}, {2, 2}, {2, 2}});    // slot 3: 2 and 2, slot 4: talent 2
     draws({0.1});                       // slot 4: creativity 1
     picks({{1, 3}, {1, 20}, {6, 20}});  // tiredness 2, replacing 9; "Wild" " Love"
-    makesong(g);
-    EXPECT_EQ(str(g.rnd.queued_left(), r.songquality[4], r.songname[4], r.tiredness, r.nextsong,
-                  r.songcount),
-              "0 15 Wild Love 2 4 4");
+    exactly([&] { makesong(g); });
+    EXPECT_EQ(str(r.songquality[4], r.songname[4], r.tiredness, r.nextsong, r.songcount),
+              "15 Wild Love 2 4 4");
     EXPECT_EQ(g.forms.main.songlist.rows, (Rows{"Song 1", "Song 2", "Song 3", "Wild Love"}));
-    EXPECT_EQ(memos(), Lines{kFinished});
+    said({kFinished});
     full_band({.talent = 1, .creativity = 1});  // a band of 1s always writes quality 8
     for (int i = 0; i < 8; ++i) draws({0.999});
     picks({{3, 3}, {20, 20}, {20, 20}});
     makesong(g);
     EXPECT_EQ(str(r.songname[5], r.songquality[5], r.tiredness), "Shocked Feelings 8 4");
-}
-
-TEST_F(Songs, TheTurnThatFinishesASongLeavesTirednessOneToThree) {
+    said({kFinished});
+    // The turn that finishes a song leaves a tiredness of 1 to 3.
     calm_chart();
     for (int tired : {0, 2}) {
         r.songweeks = 1, r.tiredness = 6;
@@ -111,45 +94,30 @@ const Shown kSigned =
 const Shown kRejected = memo("Mona", "The record label rejected our demo tape.");
 const Shown kSent = memo("Dave", "We have sent a demo to the record company");
 
-class Label : public testing::Office {
-  protected:
-    void SetUp() override {
-        calm_chart();
-        songs({10, 45});
-    }
-    Lines send() {
-        click(g, "main", "command3");
-        ok_memos();
-        return take();
-    }
+struct Label : Office {
+    void SetUp() override { calm_chart(), songs({10, 45}); }
 };
 
-TEST_F(Label, SendingADemo) {
-    EXPECT_EQ(send(),
+TEST_F(Label, SendingADemoTheVerdictTableAndTheContractHoldingAt900AndEndingAt899) {
+    EXPECT_EQ(office("command3"),
               Lines{memo("Mona", "Select a song from the list to send to the record company.")});
     click(g, "main", "songlist", 0);
     r.signed_ = -1;  // a band under contract sends demos too
-    EXPECT_EQ(send(), Lines{kSent});
+    EXPECT_EQ(office("command3"), Lines{kSent});
     g.main.selectedsong = 0;
-    EXPECT_EQ(send(), Lines{memo("Dave", "We have already sent a Demo Tape, Boss.")});
+    EXPECT_EQ(office("command3"), Lines{memo("Dave", "We have already sent a Demo Tape, Boss.")});
     EXPECT_EQ(g.main.demosent, -1);
-}
-
-TEST_F(Label, VerdictTable) {
     const std::string label = "The record label ";
-    const std::string ok = label + "thought the song was ok but not what they are looking for.";
-    const std::string liked = label + "liked your song but felt it didn't meet their needs.";
-    const std::string lot =
-        label + "liked the song a lot, they would like to hear some more of your tracks.";
-    const std::string develop =
-        label + "loved the track, but think the band as a whole still needs to develop.";
-    const Shown said[] = {{},
-                          kRejected,
-                          memo("Mona", ok),
-                          memo("Mona", liked),
-                          memo("Mona", lot),
-                          memo("Mona", develop),
-                          kSigned};
+    const Shown words[] = {
+        {},
+        kRejected,
+        memo("Mona", label + "thought the song was ok but not what they are looking for."),
+        memo("Mona", label + "liked your song but felt it didn't meet their needs."),
+        memo("Mona", label + "liked the song a lot, they would like to hear some more of your "
+                             "tracks."),
+        memo("Mona", label + "loved the track, but think the band as a whole still needs to "
+                             "develop."),
+        kSigned};
     const int rows[][3] = {{8, 5000, 1},   {19, 0, 1},    {20, 5000, 0},
                            {21, 0, 2},     {24, 0, 2},    {25, 0, 0},
                            {26, 0, 3},     {29, 0, 3},    {30, 0, 0},
@@ -157,20 +125,15 @@ TEST_F(Label, VerdictTable) {
                            {40, 999, 0},   {41, 999, 5},  {41, 1000, 6},
                            {300, 32000, 6}};  // quality, popularity, what is said
     for (const auto& [quality, popularity, k] : rows) {
-        r.songquality[2] = static_cast<Integer>(quality);
-        r.popularity = static_cast<Integer>(popularity), r.signed_ = 0, g.main.demosent = -1;
-        g.main.selectedsong = 2;
-        const bool goes_on = demo_verdict(g);
-        EXPECT_EQ(memos(), k ? Lines{said[k]} : Lines{}) << quality;
-        EXPECT_EQ(str(goes_on, g.main.demosent, r.signed_), str(k != 1, 0, k == 6 ? -1 : 0))
+        r.songquality[2] = quality, r.popularity = popularity, r.signed_ = 0;
+        g.main.demosent = -1, g.main.selectedsong = 2;
+        EXPECT_EQ(str(demo_verdict(g), g.main.demosent, r.signed_), str(k != 1, 0, k == 6 ? -1 : 0))
             << quality;
-        ok_memos();
+        said(k ? Lines{words[k]} : Lines{});
     }
     EXPECT_TRUE(demo_verdict(g));  // no demo out: nothing
     EXPECT_TRUE(take().empty());
-}
 
-TEST_F(Label, ContractHoldsAt900AndEndsAt899BeforeThePromotion) {
     r.signed_ = -1, r.popularity = 900;
     contract_review(g);
     EXPECT_EQ(r.signed_, -1);
@@ -189,15 +152,9 @@ TEST_F(Label, ContractHoldsAt900AndEndsAt899BeforeThePromotion) {
               "0 0 0 500 901");
 }
 
-Shown offer(bool yes) {
-    return testing::yesno("Do you want to release this song as a single?", yes);
-}
-
-class Singles : public testing::Office {
-  protected:
+struct Singles : Office {
     void SetUp() override {
-        calm_chart();
-        songs({30, 12, 50, 20});
+        calm_chart(), songs({30, 12, 50, 20});
         r.signed_ = -1, r.popularity = 1000;
     }
     /// A double click on a row of the track list (-1: the empty part), memos acknowledged.
@@ -211,21 +168,19 @@ class Singles : public testing::Office {
         week_start();
         picks(singles);
         week_end(true);
-        command6(g);
-        EXPECT_EQ(g.rnd.queued_left(), 0u);
+        exactly([&] { command6(g); });
         ok_memos();
         return take();
     }
-    /// Single k and its chart row in one line.
+    /// Single k as "hype demand sales", then its chart row as "band/title sales last".
     std::string single(int k) {
-        return "hype " + std::to_string(r.singlehype[k]) + " demand " +
-               std::to_string(r.singledemand[k]) + " sales " + std::to_string(r.singlesales[k]) +
-               ", row " + r.chartband[k] + " / " + r.charttitle[k] + " " +
-               std::to_string(r.chartsales[k]) + " last " + std::to_string(r.chartlastsales[k]);
+        return str(r.singlehype[k], r.singledemand[k], r.singlesales[k],
+                   r.chartband[k] + "/" + r.charttitle[k], r.chartsales[k], r.chartlastsales[k]);
     }
+    Shown offer(bool yes) { return yesno("Do you want to release this song as a single?", yes); }
 };
 
-TEST_F(Singles, ReleaseTakes1500AndSetsDemand) {
+TEST_F(Singles, ReleaseTakes1500AndSetsDemandThenAFirstWeekUnderHighPromotion) {
     r.cash = 1499;
     yes();
     EXPECT_EQ(dbl(0),
@@ -236,36 +191,27 @@ TEST_F(Singles, ReleaseTakes1500AndSetsDemand) {
     yes();
     EXPECT_EQ(dbl(0), Lines{offer(true)});
     // Demand 30 * 4 + 1000; the chart row shows the single from its first week on.
-    EXPECT_EQ(single(1), "hype 0 demand 1120 sales 0, row  /  0 last 0");
+    EXPECT_EQ(single(1), "0 1120 0 / 0 0");
     EXPECT_EQ(str(r.released[1], g.forms.main.txtcash.caption), "-1 £ 0");
+    r.cash = 1500;  // then a week of High promotion
+    click(g, "main", "promote", 3);
+    EXPECT_EQ(week({{20, 20}, {100, 100}, {1, 2}}).at(1), okbox("£39"));  // 78 + 20 copies
+    EXPECT_EQ(single(1), "8 1020 98 The Wasps/Song 1 98 0");
+    EXPECT_EQ(str(r.cash, r.popularity), str(1500 - 400 - 4 + 39, 1004));
 }
 
 TEST_F(Singles, RoyaltiesAreTwoFifthsOfTheSalesWithABoxForEverySingle) {
-    const int hype[] = {0, 0, 0, 100, 0}, demand[] = {0, 0, 0, 5, 0};
-    for (int k = 1; k <= 4; ++k) {
-        r.released[k] = -1, r.singlehype[k] = static_cast<Integer>(hype[k]);
-        r.singledemand[k] = static_cast<Integer>(demand[k]), r.chartsales[k] = 7 * k;
-    }
+    for (int k = 1; k <= 4; ++k) r.released[k] = -1, r.chartsales[k] = 7 * k;
+    r.singlehype[3] = 100, r.singledemand[3] = 5;
     // 1 copy, 3 copies, 5 + 20 copies, 4 copies; each then loses demand.
     picks({{1, 20}, {1, 100}, {3, 20}, {50, 100}, {20, 20}, {3, 100}, {4, 20}, {1, 100}});
-    singles_phase(g);
-    EXPECT_EQ(g.rnd.queued_left(), 0u);
+    exactly([&] { singles_phase(g); });
     EXPECT_EQ(take(), (Lines{okbox("£0"), okbox("£1"), okbox("£10"), okbox("£1")}));
     EXPECT_EQ(r.cash, 3012);
-    EXPECT_EQ(single(1), "hype 0 demand 0 sales 1, row The Wasps / Song 1 1 last 7");
-    EXPECT_EQ(single(2), "hype 0 demand 0 sales 3, row The Wasps / Song 2 3 last 14");
-    EXPECT_EQ(single(3), "hype 100 demand 2 sales 25, row The Wasps / Song 3 25 last 21");
-    EXPECT_EQ(single(4), "hype 0 demand 0 sales 4, row The Wasps / Song 4 4 last 28");
-}
-
-// A quality 30 single released at 1000 popularity, then a week of High promotion.
-TEST_F(Singles, FirstWeekOfASingleUnderHighPromotion) {
-    yes();
-    dbl(0);
-    click(g, "main", "promote", 3);
-    EXPECT_EQ(week({{20, 20}, {100, 100}, {1, 2}}).at(1), okbox("£39"));  // 78 + 20 copies
-    EXPECT_EQ(single(1), "hype 8 demand 1020 sales 98, row The Wasps / Song 1 98 last 0");
-    EXPECT_EQ(str(r.cash, r.popularity), str(3000 - 1500 - 400 - 4 + 39, 1004));
+    EXPECT_EQ(single(1), "0 0 1 The Wasps/Song 1 1 7");
+    EXPECT_EQ(single(2), "0 0 3 The Wasps/Song 2 3 14");
+    EXPECT_EQ(single(3), "100 2 25 The Wasps/Song 3 25 21");
+    EXPECT_EQ(single(4), "0 0 4 The Wasps/Song 4 4 28");
 }
 
 TEST_F(Singles, PromotionAddsHypeToReleasedSinglesAndTheTurnCapsItAt100) {
@@ -279,7 +225,7 @@ TEST_F(Singles, PromotionAddsHypeToReleasedSinglesAndTheTurnCapsItAt100) {
     r.singlehype[1] = 98, r.singledemand[1] = 200;
     click(g, "main", "promote", 2);     // Medium: 103, then capped
     week({{1, 20}, {1, 100}, {1, 2}});  // 200 + 1 copies, then hype +1
-    EXPECT_EQ(single(1), "hype 101 demand 199 sales 201, row The Wasps / Song 1 201 last 1");
+    EXPECT_EQ(single(1), "101 199 201 The Wasps/Song 1 201 1");
 }
 
 TEST_F(Singles, ShelvedSingleOnlyMovesItsHype) {
@@ -289,10 +235,10 @@ TEST_F(Singles, ShelvedSingleOnlyMovesItsHype) {
     click(g, "main", "promote", 3);                // High adds nothing without the contract
     for (const Shown& s : week({{1, 2}, {2, 2}}))  // the practice question only
         EXPECT_TRUE(s.kind != Shown::Kind::Box || s.buttons == Buttons::YesNo) << s.text;
-    EXPECT_EQ(single(1), "hype 11 demand 300 sales 40, row The Wasps /  40 last 12");
+    EXPECT_EQ(single(1), "11 300 40 The Wasps/ 40 12");
     EXPECT_EQ(r.singlehype[2] * 100 + r.singlehype[3], 1000);  // only released songs move
     EXPECT_EQ(r.cash, 3000 - 400 - 4);
 }
 
 }  // namespace
-}  // namespace tourvane
+}  // namespace tourvane::testing

@@ -1,41 +1,34 @@
 // Saved games: the record-file layout, reading a file field by field, refused loads, failing
-// saves, the save and load screen, and the names NEW GAME refuses because a save can't hold them.
+// saves, the save and load screen, the names NEW GAME refuses because a save can't hold them,
+// and the career's weeks and the stretches a load starts, kept beside each save.
 
 #include <cstring>
 #include <fstream>
 #include <functional>
 #include <sstream>
 
+#include "core/diary.h"
 #include "flow/save_screen.h"
 #include "rules/files/cp1252.h"
+#include "rules/files/history_file.h"
 #include "rules/files/record_file.h"
 #include "rules/files/save_file.h"
-#include "temp_dir.h"
 #include "test_game.h"
 
-namespace tourvane {
+namespace tourvane::testing {
 namespace {
 
-using testing::str;
-using testing::TestGame;
-using Bytes = std::vector<std::uint8_t>;
-
-Shown critical(std::string_view text) {
-    return testing::okbox(text, true);
-}
-
 /// The byte offset of record n (counted from 1).
-std::size_t at(int record) {
-    return static_cast<std::size_t>(record - 1) * 128;
-}
+const auto at = [](int record) { return static_cast<std::size_t>(record - 1) * 128; };
+
+/// A game started up in a fresh working directory, on the title screen.
+struct Saves : ::testing::Test, TempDir, TestGame {};
 
 // Record 1 the band's name, 3 popularity, 4 signed, 44 memberhappy(4), 56 chartlife(1), 132
 // chartlife(20) and again 704, 133 cash, 139 songweeks, 141 gamedate, 143 reserved, 703
 // chartdemand(70), 754 chartlife(70), 759 venueopen(5); behind each, filler of zeros.
-TEST(SaveLayout, KnownGameLandsInItsRecords) {
-    TestGame t;
-    t.new_game("Café", "Sam");
-    Module1& r = t.r;
+TEST_F(Saves, KnownGameLandsInItsRecords) {
+    new_game("Café", "Sam");
     r.popularity = 100, r.signed_ = r.venueopen[5] = r.memberhappy[4] = -1, r.chartlife[1] = 0x0102;
     r.chartlife[20] = 333, r.cash = -2, r.chartdemand[70] = 149, r.chartlife[70] = 250;
     const Bytes b = save_bytes(r);
@@ -68,8 +61,7 @@ TEST(SaveLayout, KnownGameLandsInItsRecords) {
     EXPECT_EQ(back, "a?");
 }
 
-TEST(SaveReading, CraftedFileIsTakenFieldByFieldAndDamagedOnesAreRefused) {
-    TestGame t;
+TEST_F(Saves, CraftedFileIsTakenFieldByFieldAndDamagedOnesAreRefused) {
     Bytes b(97152, 0);
     auto put = [&](int record, Bytes v) { std::copy(v.begin(), v.end(), b.begin() + at(record)); };
     for (int record : {1, 3, 6})  // filler is never looked at, whatever it holds
@@ -84,7 +76,7 @@ TEST(SaveReading, CraftedFileIsTakenFieldByFieldAndDamagedOnesAreRefused) {
     put(143, {0xFF, 0xFF});                          // reserved: ignored
     put(704, {9, 0});                                // the second chartlife(20) lasts
     put(755, {0xFF, 0xFF});
-    const auto loaded = parse_save(b, t.r);
+    const auto loaded = parse_save(b, r);
     ASSERT_TRUE(loaded);
     EXPECT_EQ(loaded->bandname + "|" + loaded->playername + "|" + loaded->songname[1],
               "Zoë||“Hi”!");
@@ -95,9 +87,8 @@ TEST(SaveReading, CraftedFileIsTakenFieldByFieldAndDamagedOnesAreRefused) {
     const Bytes good = b;
     put(5, {1, 0, 'A'});
     b.resize(at(5) + 3);
-    const auto cut = parse_save(b, t.r);
-    ASSERT_TRUE(cut);
-    EXPECT_EQ(str(cut->membername[1], cut->cash, cut->songweeks, cut->gamedate), "A 0 0 0");
+    const Module1 cut = parse_save(b, r).value();
+    EXPECT_EQ(str(cut.membername[1], cut.cash, cut.songweeks, cut.gamedate), "A 0 0 0");
 
     const double year_10000 = 2958466.0;
     const std::function<void(Bytes&)> damage[] = {
@@ -113,53 +104,45 @@ TEST(SaveReading, CraftedFileIsTakenFieldByFieldAndDamagedOnesAreRefused) {
     for (std::size_t k = 0; k < std::size(damage); ++k) {
         b = good;
         damage[k](b);
-        EXPECT_FALSE(parse_save(b, t.r).has_value()) << k;
+        EXPECT_FALSE(parse_save(b, r).has_value()) << k;
     }
 }
 
-struct InTempDir : ::testing::Test {
-    testing::TempDir dir;
-};
-
-TEST_F(InTempDir, FailingSaveKeepsTheOldSaveAndTheGame) {
-    TestGame t;
-    t.new_game();
+TEST_F(Saves, FailingSaveKeepsTheOldSaveAndTheGame) {
+    new_game();
     std::string why;
-    ASSERT_TRUE(write_save(t.r, slot_file(2), why));
+    ASSERT_TRUE(write_save(r, slot_file(2), why));
     const auto old_save = read_file("tvsave2.tvs", 1 << 20);
-    t.r.bandname = "New Band";
-    click(t.g, "main", "command5");
-    click(t.g, "savefrm", "saveslot", 2);
+    r.bandname = "New Band";
+    click(g, "main", "command5");
+    click(g, "savefrm", "saveslot", 2);
     const std::string cannot = "The game could not be saved in slot 3 (tvsave2.tvs): ";
     std::filesystem::create_directory("tvsave2.tvs.new");  // the new file can't be made
-    click(t.g, "savefrm", "save");
+    click(g, "savefrm", "save");
     std::filesystem::remove("tvsave2.tvs.new");
     std::filesystem::create_symlink("/dev/full", "tvsave2.tvs.new");  // the disk fills up
-    click(t.g, "savefrm", "save");
-    EXPECT_EQ(t.take(), (testing::Lines{critical(cannot + "Is a directory."),
-                                        critical(cannot + "No space left on device.")}));
+    click(g, "savefrm", "save");
+    EXPECT_EQ(take(), (Lines{okbox(cannot + "Is a directory.", true),
+                             okbox(cannot + "No space left on device.", true)}));
     EXPECT_FALSE(std::filesystem::is_symlink("tvsave2.tvs.new"));
     EXPECT_EQ(read_file("tvsave2.tvs", 1 << 20), old_save);
-    EXPECT_TRUE(t.g.forms.savefrm.visible);  // another slot can be tried
+    EXPECT_TRUE(g.forms.savefrm.visible);  // another slot can be tried
 }
 
 // The office's save (the box, and the load, are in the career scenario) and a load from the
 // title screen in the next run: captions, what each slot holds, the back button, and what the
 // load refreshes (the lists are checked after every click by the soak).
-TEST_F(InTempDir, SaveFromTheOfficeAndALoadFromTheTitleInTheNextRun) {
-    {
-        TestGame first;
-        first.new_game().r.cash = 1234;
-        std::ofstream(slot_file(1)).flush();            // empty, as a slot's first start leaves it
-        std::ofstream(slot_file(3)) << "\xC8\x00oops";  // a name longer than any record holds
-        click(first.g, "main", "command5");
-        const SaveForm& f = first.g.forms.savefrm;
-        EXPECT_TRUE(f.save.visible && f.saveslot[0].value && first.g.forms.main.visible);
-        click(first.g, "savefrm", "saveslot", 2);
-        click(first.g, "savefrm", "save");
-        click(first.g, "main", "command5");  // captions don't follow saves made in this run...
-        EXPECT_EQ(str(f.loaded, f.saveslot[2].caption), "1 GAME SLOT 1");
-    }
+TEST_F(Saves, SaveFromTheOfficeAndALoadFromTheTitleInTheNextRun) {
+    new_game().r.cash = 1234;
+    std::ofstream(slot_file(1)).flush();            // empty, as a slot's first start leaves it
+    std::ofstream(slot_file(3)) << "\xC8\x00oops";  // a name longer than any record holds
+    click(g, "main", "command5");
+    EXPECT_TRUE(g.forms.savefrm.save.visible && g.forms.savefrm.saveslot[0].value &&
+                g.forms.main.visible);
+    click(g, "savefrm", "saveslot", 2);
+    click(g, "savefrm", "save");
+    click(g, "main", "command5");  // captions don't follow saves made in this run...
+    EXPECT_EQ(str(g.forms.savefrm.loaded, g.forms.savefrm.saveslot[2].caption), "1 GAME SLOT 1");
     TestGame t;              // ...and show the band from the next start on
     t.r.singlehype[1] = 55;  // not in a save: the running value stays
     click(t.g, "Form1", "load");
@@ -178,26 +161,74 @@ TEST_F(InTempDir, SaveFromTheOfficeAndALoadFromTheTitleInTheNextRun) {
     EXPECT_EQ(t.r.cash, 3000);  // the running game is untouched
     click(t.g, "savefrm", "saveslot", 2);
     click(t.g, "savefrm", "load");
-    const OfficeForm& office = t.g.forms.main;
-    EXPECT_EQ(str(t.g.forms.Form1.loaded, f.loaded, office.visible, t.r.singlehype[1],
-                  office.txtcash.caption),
+    EXPECT_EQ(str(t.g.forms.Form1.loaded, f.loaded, t.g.forms.main.visible, t.r.singlehype[1],
+                  t.g.forms.main.txtcash.caption),
               "0 0 1 55 £ 1234");
 }
 
-TEST(NewGameNames, RefusesNamesASaveCannotHold) {
-    TestGame t;
-    t.port.queue_input(std::string(127, 'a'));
-    click(t.g, "Form1", "New");
-    EXPECT_EQ(t.take().back(), critical("Names can be at most 126 characters."));
-    t.port.queue_input("Bånd");
-    t.port.queue_input("Søren 日本");
-    click(t.g, "Form1", "New");
-    EXPECT_EQ(t.take().back(), critical("Names can only use Western European letters."));
-    EXPECT_EQ(t.r.bandname + "|" + t.r.playername, "Bånd|");
-    EXPECT_TRUE(t.g.forms.Form1.visible);
-    t.new_game("Bånd", std::string(63, 'a') + "é" + std::string(62, 'b'));  // 126 letters fit
-    EXPECT_TRUE(t.g.forms.main.visible);
+TEST_F(Saves, NewGameRefusesNamesASaveCannotHold) {
+    port.queue_input(std::string(127, 'a'));
+    click(g, "Form1", "New");
+    EXPECT_EQ(take().back(), okbox("Names can be at most 126 characters.", true));
+    port.queue_input("Bånd");
+    port.queue_input("Søren 日本");
+    click(g, "Form1", "New");
+    EXPECT_EQ(take().back(), okbox("Names can only use Western European letters.", true));
+    EXPECT_EQ(r.bandname + "|" + r.playername, "Bånd|");
+    EXPECT_TRUE(g.forms.Form1.visible);
+    new_game("Bånd", std::string(63, 'a') + "é" + std::string(62, 'b'));  // 126 letters fit
+    EXPECT_TRUE(g.forms.main.visible);
+}
+
+/// Each sample as "days-since-start cash popularity stretch;".
+std::string samples(const std::vector<WeekSample>& weeks) {
+    std::string out;
+    for (const WeekSample& w : weeks)
+        out += str(w.date - kStartDate, w.cash, w.popularity, w.segment) + ";";
+    return out;
+}
+
+TEST_F(Saves, ALoadStartsANewStretchAndADamagedOrForeignHistoryIsLeftOut) {
+    new_game();
+    auto week_and_save = [&](int slot) {
+        ASSERT_EQ(click(g, "main", "command6"), ClickResult::Done);
+        ok_memos();
+        click(g, "main", "command5");
+        click(g, "savefrm", "saveslot", slot);
+        click(g, "savefrm", "save");
+    };
+    week_and_save(0);
+    r.cash = 77;
+    week_and_save(1);
+    EXPECT_EQ(samples(g.history), "7 3000 -1 0;14 77 -1 0;");
+    EXPECT_EQ(samples(g.segments), "0 3000 0 0;");
+    click(g, "main", "command5");
+    click(g, "savefrm", "saveslot", 0);
+    click(g, "savefrm", "load");
+    EXPECT_EQ(samples(g.segments), "0 3000 0 0;7 3000 -1 1;");
+    week_and_save(2);
+    EXPECT_EQ(samples(g.history), "7 3000 -1 0;14 3000 -1 1;");
+
+    // Damaged, cut short, foreign, another save's, or missing: the load works, with no history.
+    const auto good = read_file(history_file(0), 1 << 20).value();
+    std::vector<Bytes> bad{{good.begin(), good.end() - 1},
+                           {'M', 'Z', 0, 0},
+                           read_file(history_file(1), 1 << 20).value()};
+    bad.push_back(good), bad.back()[19] ^= 0x40;              // a diary longer than the file
+    bad.push_back(good), bad.back()[good.size() - 4] = 0x7f;  // a stretch out of order
+    bad.push_back({});                                        // none
+    for (std::size_t k = 0; k < bad.size(); ++k) {
+        std::string why;
+        ASSERT_TRUE(bad[k].empty() ? std::filesystem::remove(history_file(0))
+                                   : replace_file(history_file(0), bad[k], why));
+        TestGame u;
+        click(u.g, "Form1", "load");
+        click(u.g, "savefrm", "load");
+        EXPECT_EQ(str(k, u.g.forms.savefrm.loaded, u.g.diary.size(), u.g.history.size(),
+                      u.g.segments.size(), u.g.diary.back().text),
+                  str(k, "0 1 0 1 Game Loaded"));
+    }
 }
 
 }  // namespace
-}  // namespace tourvane
+}  // namespace tourvane::testing

@@ -4,6 +4,9 @@
 
 #include <gtest/gtest.h>
 
+#include <cstdint>
+#include <cstdlib>
+#include <filesystem>
 #include <initializer_list>
 #include <sstream>
 #include <string>
@@ -30,6 +33,20 @@ namespace tourvane::testing {
 
 using Lines = std::vector<Shown>;
 using Rows = std::vector<std::string>;
+using Bytes = std::vector<std::uint8_t>;
+
+/// A fresh, empty working directory for one test: the game reads and writes its files in the
+/// working directory, so each test gets its own and the old one comes back afterwards.
+struct TempDir {
+    std::filesystem::path old = std::filesystem::current_path();
+    std::string path = (std::filesystem::temp_directory_path() / "tourvane-XXXXXX").string();
+    TempDir() { std::filesystem::current_path(::mkdtemp(path.data())); }
+    ~TempDir() {
+        std::filesystem::current_path(old);
+        std::error_code ec;
+        std::filesystem::remove_all(path, ec);
+    }
+};
 
 /// The values written one after another with a blank between, to compare several at once.
 template <class... T>
@@ -51,8 +68,7 @@ struct Applicant {
     int talent = 1, charisma = 1, attitude = 1, looks = 1, creativity = 1;
 };
 
-class TestGame {
-  public:
+struct TestGame {
     Lines lines;
     ScriptedPort port{[this](const Shown& shown) { lines.push_back(shown); }};
     Game g{port};
@@ -73,9 +89,9 @@ class TestGame {
     /// Puts a member into a slot directly.
     void put(int s, const std::string& name, Member m = {}) {
         r.membername[s] = name, r.membersex[s] = m.sex, r.memberage[s] = 20;
-        r.membertalent[s] = Integer(m.talent), r.membercharisma[s] = Integer(m.charisma);
-        r.memberattitude[s] = Integer(m.attitude), r.memberlooks[s] = Integer(m.looks);
-        r.membercreativity[s] = Integer(m.creativity), r.memberhappy[s] = Integer(m.happy);
+        r.membertalent[s] = m.talent, r.membercharisma[s] = m.charisma;
+        r.memberattitude[s] = m.attitude, r.memberlooks[s] = m.looks;
+        r.membercreativity[s] = m.creativity, r.memberhappy[s] = m.happy;
     }
 
     /// Fills all four slots with steady members (attitude 5 never misbehaves).
@@ -86,11 +102,9 @@ class TestGame {
 
     /// Slot s as "name|sex|age talent charisma attitude looks creativity happy friction".
     std::string member(int s) const {
-        std::string out = r.membername[s] + "|" + r.membersex[s] + "|";
-        for (int v : {r.memberage[s], r.membertalent[s], r.membercharisma[s], r.memberattitude[s],
-                      r.memberlooks[s], r.membercreativity[s], r.memberhappy[s]})
-            out += std::to_string(v) + " ";
-        return out + std::to_string(r.memberfriction[s]);
+        return r.membername[s] + "|" + r.membersex[s] + "|" +
+               str(r.memberage[s], r.membertalent[s], r.membercharisma[s], r.memberattitude[s],
+                   r.memberlooks[s], r.membercreativity[s], r.memberhappy[s], r.memberfriction[s]);
     }
     /// `memberhappy` of slots 1 to 4, as "a b c d"; and setting them.
     std::string happiness() const {
@@ -103,8 +117,8 @@ class TestGame {
     /// Songs 1, 2, ... of the given qualities, on the track list.
     void songs(const std::vector<int>& qualities) {
         int k = 0;
-        for (int q : qualities) ++k, r.songname[k] = str("Song", k), r.songquality[k] = Integer(q);
-        r.songcount = r.nextsong = static_cast<Integer>(k);
+        for (int q : qualities) ++k, r.songname[k] = str("Song", k), r.songquality[k] = q;
+        r.songcount = r.nextsong = k;
         updatesonglist(g);
     }
 
@@ -129,7 +143,7 @@ class TestGame {
             r.chartfame[row] = 10, r.chartquality[row] = 50, r.chartdemand[row] = 100;
             r.chartlife[row] = 30000, r.chartsales[row] = row, r.chartlastsales[row] = 0;
         }
-        for (int k = 0; k <= 50; ++k) r.rivalname[k] = str("Pool", k), r.rivalfame[k] = Integer(k);
+        for (int k = 0; k <= 50; ++k) r.rivalname[k] = str("Pool", k), r.rivalfame[k] = k;
     }
     /// Rival rows' steps that keep them running: demand +1, fame +1, life -1.
     void tick(int rows = 1) {
@@ -163,26 +177,35 @@ class TestGame {
     void ok_memos() {
         while (!g.memos.empty() && !g.ended) memo_ok(g);
     }
+    /// A click on the office with its memos acknowledged; the lines it raised.
+    Lines office(const char* control) {
+        click(g, "main", control);
+        ok_memos();
+        return take();
+    }
+    /// Expects exactly these memos shown so far, then acknowledges them.
+    void said(const Lines& want) {
+        EXPECT_EQ(memos(), want);
+        ok_memos();
+    }
 
     /// What the port showed so far, and forgets it.
-    Lines take() {
-        Lines out;
-        out.swap(lines);
-        return out;
-    }
+    Lines take() { return std::exchange(lines, {}); }
 
     /// The memos shown so far, and forgets all that was shown.
     Lines memos() {
-        Lines out;
-        for (const Shown& s : take())
-            if (s.kind == Shown::Kind::Memo) out.push_back(s);
+        Lines out = take();
+        std::erase_if(out, [](const Shown& s) { return s.kind != Shown::Kind::Memo; });
         return out;
     }
 };
 
-/// A fixture with the office up and a full, steady band.
-struct Office : ::testing::Test, TestGame {
-    Office() { new_game().full_band(); }
+/// Fixtures with the office up, with nobody hired and with a full, steady band.
+struct NewGame : ::testing::Test, TestGame {
+    NewGame() { new_game(); }
+};
+struct Office : NewGame {
+    Office() { full_band(); }
 };
 
 /// A memo, and the boxes as the port reports them.

@@ -9,7 +9,7 @@
       again, and again with `diary` and `history` after every command less the lines those
       print; and one script at least prints another transcript with another seed.
 """
-import glob, os, re, subprocess, sys, tempfile
+import glob, itertools, os, re, subprocess, sys, tempfile
 
 QUEUEING = ("rnd", "answer", "input", "automemo")  # run before the start-up: no look there
 LOOK_BACK = re.compile(r"^(diary|week) \d\d/\d\d/\d+ ")
@@ -28,12 +28,10 @@ def check(driver, script, update):
     expected_path = os.path.splitext(script)[0] + ".out"
     status, got, stderr = run(driver, open(script, encoding="utf-8").read(), "1")
     if update:
-        with open(expected_path, "w", encoding="utf-8") as out:
-            out.write("".join(line + "\n" for line in got))
+        open(expected_path, "w", encoding="utf-8").write("".join(l + "\n" for l in got))
         return "wrote %s (%d lines, exit %d)" % (expected_path, len(got), status)
     want = open(expected_path, encoding="utf-8").read().splitlines()
-    for n in range(max(len(want), len(got))):
-        w, g = (want + ["<end>"] * len(got))[n], (got + ["<end>"] * len(want))[n]
+    for n, (w, g) in enumerate(itertools.zip_longest(want, got, fillvalue="<end>")):
         if w != g:
             sys.exit("line %d differs\n  expected: %s\n  got:      %s" % (n + 1, w, g))
     if status != any(line.startswith("error ") for line in want):
@@ -45,10 +43,9 @@ def replays(driver, folder):
     def looking_back(text):
         out = []
         for line in text.splitlines():
-            out.append(line)
             words = line.split()
-            if words and not words[0].startswith("#") and words[0] not in QUEUEING:
-                out += ["diary", "history"]
+            out += [line] + (["diary", "history"] if words and words[0][0] != "#"
+                             and words[0] not in QUEUEING else [])
         return "\n".join(out) + "\n"
 
     def transcript(text, seed):
