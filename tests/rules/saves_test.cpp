@@ -230,5 +230,17 @@ TEST_F(Saves, ALoadStartsANewStretchAndADamagedOrForeignHistoryIsLeftOut) {
     }
 }
 
+// A history names its save by the save's FNV-1a sum, so that the histories of earlier versions
+// still match their saves: the sum of the bytes as they stand, zeros that end a record included.
+TEST(SaveMark, IsTheFnv1aSumOfTheSaveBytes) {
+    Bytes two{6, 0, 'f', 'o', 'o', 'b', 'a', 'r'};  // a text record, an empty one, a byte
+    two.resize(2 * 128 + 1);
+    two.back() = 1;
+    EXPECT_EQ(save_mark({}), 0xcbf29ce484222325u);
+    EXPECT_EQ(save_mark(Bytes{'f', 'o', 'o', 'b', 'a', 'r'}), 0x85944171f73967e8u);
+    EXPECT_EQ(save_mark(two), 0xd1c57dbe008a30d1u);
+    EXPECT_EQ(save_mark(Bytes(3 * 128)), 0xc86ec345c0ee8125u);
+}
+
 }  // namespace
 }  // namespace tourvane::testing
