@@ -90,7 +90,7 @@ TEST_F(Saves, CraftedFileIsTakenFieldByFieldAndDamagedOnesAreRefused) {
     const Module1 cut = parse_save(b, r).value();
     EXPECT_EQ(str(cut.membername[1], cut.cash, cut.songweeks, cut.gamedate), "A 0 0 0");
 
-    const double year_10000 = 2958466.0;
+    const Date outside[] = {kFirstDay - 1, kLastDay + 1};  // 31 December 99, 1 January 10000
     const std::function<void(Bytes&)> damage[] = {
         [](Bytes& d) { d.clear(); },
         [](Bytes& d) { d[0] = 0; },                                   // no band's name
@@ -99,12 +99,18 @@ TEST_F(Saves, CraftedFileIsTakenFieldByFieldAndDamagedOnesAreRefused) {
         [](Bytes& d) { d.resize(at(2) + 1); },                        // inside a length
         [](Bytes& d) { d.resize(4); },                                // a name past the end
         [](Bytes& d) { std::fill_n(d.begin() + at(141), 8, 0xFF); },  // NaN
-        [&](Bytes& d) { std::memcpy(d.data() + at(141), &year_10000, 8); },
+        [&](Bytes& d) { std::memcpy(d.data() + at(141), &outside[0], 8); },
+        [&](Bytes& d) { std::memcpy(d.data() + at(141), &outside[1], 8); },
     };
     for (std::size_t k = 0; k < std::size(damage); ++k) {
         b = good;
         damage[k](b);
         EXPECT_FALSE(parse_save(b, r).has_value()) << k;
+    }
+    for (const Date day : {kFirstDay, kLastDay}) {  // the first and last days a date can show
+        b = good;
+        std::memcpy(b.data() + at(141), &day, 8);
+        EXPECT_EQ(parse_save(b, r).value().gamedate, day);
     }
 }
 
@@ -164,6 +170,9 @@ TEST_F(Saves, SaveFromTheOfficeAndALoadFromTheTitleInTheNextRun) {
     EXPECT_EQ(str(t.g.forms.Form1.loaded, f.loaded, t.g.forms.main.visible, t.r.singlehype[1],
                   t.g.forms.main.txtcash.caption),
               "0 0 1 55 £ 1234");
+    std::string why;  // the first slot's name is read as the others' are
+    ASSERT_TRUE(write_save(t.r, slot_file(0), why));
+    EXPECT_EQ(TestGame().r.slotname[0], "The Wasps");
 }
 
 TEST_F(Saves, NewGameRefusesNamesASaveCannotHold) {
@@ -216,6 +225,7 @@ TEST_F(Saves, ALoadStartsANewStretchAndADamagedOrForeignHistoryIsLeftOut) {
                            read_file(history_file(1), 1 << 20).value()};
     bad.push_back(good), bad.back()[19] ^= 0x40;              // a diary longer than the file
     bad.push_back(good), bad.back()[good.size() - 4] = 0x7f;  // a stretch out of order
+    bad.push_back(good), bad.back()[good.size() - 26] = 1;    // a week of a stretch not there
     bad.push_back({});                                        // none
     for (std::size_t k = 0; k < bad.size(); ++k) {
         std::string why;
