@@ -157,12 +157,15 @@ void GameWindows::quit() {
         forward(window, c, -1, false);
 }
 
+bool GameWindows::wanted(const Screen& screen) const {
+    return screen.form->loaded && screen.form->visible && !g_.ended;
+}
+
 void GameWindows::refresh() {
     for (Screen& s : screens_) {
-        const bool wanted = s.form->loaded && s.form->visible && !g_.ended;
         if (s.view)
             s.view->refresh();
-        else if (wanted)
+        else if (wanted(s))
             build(s);
     }
     for (Screen& s : screens_) {
@@ -170,11 +173,11 @@ void GameWindows::refresh() {
         const bool forward = s.form->forward_requests != s.forward_seen;
         s.forward_seen = s.form->forward_requests;
         if (!view) continue;  // never wanted yet
-        const bool wanted = view->form().loaded && view->form().visible && !g_.ended;
-        if (wanted && view->isVisible() && forward) bring_forward(view);
-        if (wanted && !view->isVisible()) {
+        const bool open = wanted(s);
+        if (open && view->isVisible() && forward) bring_forward(view);
+        if (open && !view->isVisible()) {
             show_view(view);
-        } else if (!wanted && view->isVisible()) {
+        } else if (!open && view->isVisible()) {
             view->hide();
             shown_.erase(std::remove(shown_.begin(), shown_.end(), view), shown_.end());
         }

@@ -69,6 +69,8 @@ class GameWindows : public QObject {
         unsigned forward_seen = 0;  ///< the form's forward requests handled
     };
     FormView* build(Screen& screen);
+    /// A screen's window stands open while its form is loaded and visible and the game goes on.
+    bool wanted(const Screen& screen) const;
     /// The window of a screen if it has been built, else nullptr.
     FormView* built(std::string_view form) const;
     void quit_key_for(QWidget& window);
