@@ -224,6 +224,14 @@ TEST_F(Roster, WalkOutCarriesALaterMemberAndLeavesTheEmptySlotPicked) {
     const std::string shock =
         " has decided to leave the band! The rest of the band is in a state of shock.";
     EXPECT_EQ(memos(), (Lines{memo("Mona", "Ann Vox" + shock), memo("Mona", "Cy Low" + shock)}));
+    // Shown one at a time in turn, holding the office till the last is read.
+    const FormState& office = g.forms.main;
+    const Control& shown = g.forms.messageForm.thetxt;
+    for (const char* name : {"Ann Vox", "Cy Low"}) {
+        EXPECT_EQ(str(shown.caption, office.enabled), name + shock + " 0");
+        memo_ok(g);
+    }
+    EXPECT_EQ(str(g.forms.messageForm.loaded, office.enabled), "0 1");
 }
 
 using Training = Roster;

@@ -44,6 +44,10 @@ TEST_F(Turn, PromotionPricesWagesAndTheEarlyEndsOfShortMoney) {
         EXPECT_EQ(str(t.r.cash, t.r.popularity, t.r.gamedate, t.g.game_over,
                       t.g.forms.main.secret.enabled),
                   c.after);
+        // Only a week that passes time is sampled, the last one too, whose memo bears its day.
+        EXPECT_EQ(t.g.history.size(), t.r.gamedate > 37135.0 ? 1u : 0u) << c.cash;
+        const double day = c.memo == broke ? 37142 : 37135;
+        EXPECT_EQ(c.memo.empty() ? day : t.g.diary.back().date, day) << c.cash;
         if (!c.band || c.memo.empty()) continue;
         message(t.g, "late", "Dave");
         EXPECT_EQ(click(t.g, "main", "command6"), ClickResult::NotUsableNow);

@@ -1,6 +1,5 @@
 #!/usr/bin/env python3
-"""Plays scenario scripts with tourvane-script, each run in a fresh empty folder; a line
-"# next run" starts the program again in the same folder, so later runs find earlier files.
+"""Plays scenario scripts with tourvane-script, each run in a fresh empty folder.
 
   run_scenario.py [--update] DRIVER NAME.tvs   the transcript (--seed 1) is NAME.out line for
       line, and the exit status is 1 when it has an error line, 0 otherwise; --update writes
@@ -17,11 +16,10 @@ LOOK_BACK = re.compile(r"^(diary|week) \d\d/\d\d/\d+ ")
 
 def run(driver, text, seed):
     with tempfile.TemporaryDirectory() as work:
-        done = [subprocess.run([driver, "--seed", seed], input=part.encode(), cwd=work,
-                               capture_output=True, timeout=60)
-                for part in re.split(r"(?m)^# next run\n", text)]
-    out = b"".join(d.stdout for d in done).decode("utf-8", errors="replace").splitlines()
-    return max(d.returncode for d in done), out, b"".join(d.stderr for d in done).decode()
+        done = subprocess.run([driver, "--seed", seed], input=text.encode(), cwd=work,
+                              capture_output=True, timeout=60)
+    out = done.stdout.decode("utf-8", errors="replace").splitlines()
+    return done.returncode, out, done.stderr.decode()
 
 
 def check(driver, script, update):
