@@ -29,10 +29,11 @@ TEST_F(ChartStep, EachRowDrawsDemandFameAndLifeInTurn) {
     row(23, 28, 5, 100);      // 29/100 of 100 in double precision is just below 29
     row(24, -5, 5, 300);      // a demand at or below 0 is lifted to 1 first
     tick();
-    picks({{1, 2}, {4, 5}, {2, 2}, {8, 10}, {50, 100}});
+    draws({0.45});  // a coin just below one half falls up
+    picks({{4, 5}, {2, 2}, {8, 10}, {50, 100}});
     picks({{2, 2}, {5, 5}, {2, 2}, {10, 10}, {1, 100}});
     tick();
-    picks({{2, 2}, {1, 5}, {1, 2}, {3, 3}, {1, 100}});
+    picks({{2, 2}, {1, 5}}), draws({0.45}), picks({{3, 3}, {1, 100}});
     tick(46);
     exactly([&] { chart_step(g); });
     EXPECT_EQ(at(21), "Rival 21 / Hit 21: 44 1 50 250 132 55");
@@ -53,6 +54,7 @@ TEST_F(ChartStep, SpentRowsTakeANewRecordFromThePool) {
     // Row 20 sells this week, runs out, and takes pool entry 0 with the lowest draws.
     picks({{1, 2}, {1, 5}, {1, 2}, {1, 3}, {30, 100}});
     picks({{1, 51}, {1, 100}, {1, 20}, {6, 20}, {45, 45}});
+    r.chartlife[21] = 2;  // left with a life of 1: still running
     tick(49);
     // Row 70: the highest draws; the pick still lands on entry 50, never on the empty 51.
     picks({{1, 2}, {1, 5}, {1, 2}, {1, 3}, {100, 100}});
@@ -61,6 +63,7 @@ TEST_F(ChartStep, SpentRowsTakeANewRecordFromThePool) {
     exactly([&] { chart_step(g); });
     EXPECT_EQ(at(20), "Pool 0 / Wild Love: 50 13 74 309 0 0");
     EXPECT_EQ(at(70), "Pool 50 / Shocked Feelings: 149 50 30 170 0 0");
+    EXPECT_EQ(str(r.chartband[21], r.chartlife[21]), "Rival 21 1");
 }
 
 TEST_F(ChartStep, PlayerRowsStandStillAndRowTwentyIsARivalRow) {
