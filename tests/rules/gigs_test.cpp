@@ -177,13 +177,15 @@ TEST_F(GigsTest, MemberValuesCountByTheirThresholdsTheCrowdFollowsPopularityAndT
     }
 
     // A repeat pays only when the song is great; the screen keeps a song off the list twice,
-    // but a list made some other way still plays. The best song is the earliest of the best.
+    // but a list made some other way still plays. The best song is the earliest of the best,
+    // the last on the list too.
     const struct {
         std::vector<int> quality, rows;
         int repeat, score, best;
     } lists[] = {{{79, 20, 20}, {0, 1, 2}, 1, 20, 1},
                  {{80, 20, 20}, {0, 1, 2}, 1, 180, 1},
-                 {{50, 10, 30, 40, 40}, {2, 4, 3}, 0, 110, 5}};
+                 {{50, 10, 30, 40, 40}, {2, 4, 3}, 0, 110, 5},
+                 {{10, 20, 30}, {0, 1, 2}, 0, 60, 3}};
     for (const auto& c : lists) {
         r.songcount = c.quality.size();
         set_qualities(c.quality);
