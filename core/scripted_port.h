@@ -44,6 +44,13 @@ class ScriptedPort : public UiPort {
     /// How many queued answers did not fit the box they met.
     int mismatches() const { return mismatches_; }
 
+    /// Drops every queued answer and input and the count of mismatches.
+    void clear() {
+        answers_.clear();
+        inputs_.clear();
+        mismatches_ = 0;
+    }
+
     Answer msgbox(std::string_view text, Buttons buttons, bool critical) override;
     std::string inputbox(std::string_view prompt, std::string_view title) override;
     void memo_raised(std::string_view from, std::string_view text) override;

@@ -74,7 +74,16 @@ Session::Session(std::ostream& out, std::optional<std::uint64_t> seed, FilePort&
     : out_(out), seed_(seed), port_([this](const Shown& shown) { print(transcript_line(shown)); }) {
     game_ = std::make_unique<Game>(port_);
     game_->files = &files;
+    blank_ = std::make_unique<const Game>(*game_);
     fields_ = fields(*game_);
+}
+
+void Session::begin_again() {
+    *game_ = *blank_;
+    port_.clear();
+    started_ = false;
+    automemo_ = true;
+    errors_ = 0;
 }
 
 void Session::print(const std::string& line) {
@@ -93,8 +102,11 @@ void Session::start() {
 }
 
 bool Session::run_line(std::string_view line) {
+    return run(parse_line(line));
+}
+
+bool Session::run(const ParsedLine& parsed) {
     if (game_->ended) return false;
-    const ParsedLine parsed = parse_line(line);
     if (parsed.kind == ParsedLine::Kind::Blank) return true;
     if (!started_ && !runs_before_startup(parsed.verb)) start();
     if (parsed.kind == ParsedLine::Kind::Error)
@@ -156,7 +168,7 @@ void Session::execute(const Command& c) {
             do_set(c);
             break;
         case Verb::Dump: {
-            // Some 2,000 lines, laid in one string and written at once.
+            // Some 1,200 lines, laid in one string and written at once.
             std::string text;
             const auto add = [&](const Field& f, int index) {
                 append_field_line(text, f, index);

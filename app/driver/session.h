@@ -28,6 +28,13 @@ class Session {
     /// `end`): no further line is read.
     bool run_line(std::string_view line);
 
+    /// Runs a line already read by `parse_line`, as `run_line` does.
+    bool run(const ParsedLine& parsed);
+
+    /// Goes back to the state of a new session, with the same seed and files, for the next
+    /// script. Cheaper than a new session: the game's strings and lists are used again.
+    void begin_again();
+
     /// Finishes the script: runs the start-up if no command has needed it yet.
     void finish();
 
@@ -56,6 +63,7 @@ class Session {
     std::optional<std::uint64_t> seed_;
     ScriptedPort port_;
     std::unique_ptr<Game> game_;
+    std::unique_ptr<const Game> blank_;  ///< the game as a new session has it
     bool started_ = false;
     bool automemo_ = true;
     int errors_ = 0;

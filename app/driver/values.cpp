@@ -7,6 +7,7 @@
 
 #include "core/numeric.h"
 #include "core/scripted_port.h"
+#include "rules/files/record_file.h"
 
 namespace tourvane::driver {
 
@@ -195,7 +196,7 @@ void append_field(std::string& out, const Field& f, int index) {
     std::to_chars_result end{buf, {}};
     switch (f.type) {
         case FieldType::String:
-            out += json_quote(f.at<std::string>(index));
+            append_json_quoted(out, f.at<std::string>(index));
             return;
         case FieldType::Integer:
         case FieldType::Boolean:
@@ -232,9 +233,15 @@ std::string check_field_value(FieldType type, std::string_view text) {
                        std::to_string(hi);
             return {};
         }
-        case FieldType::Date:
-            if (!parse_decimal(text)) return "malformed number " + shown_word(text);
+        case FieldType::Date: {
+            auto v = parse_decimal(text);
+            if (!v) return "malformed number " + shown_word(text);
+            // The days a save file can hold: 1 January 100 to 31 December 9999.
+            if (*v < kFirstDay || *v > kLastDay)
+                return "value " + shown_word(text) + " out of range " + format_decimal(kFirstDay) +
+                       ".." + format_decimal(kLastDay);
             return {};
+        }
     }
     return "unknown field type";
 }
@@ -276,7 +283,13 @@ std::string shown_word(std::string_view word) {
 }
 
 std::string json_quote(std::string_view text) {
-    std::string out = "\"";
+    std::string out;
+    append_json_quoted(out, text);
+    return out;
+}
+
+void append_json_quoted(std::string& out, std::string_view text) {
+    out += '"';
     for (unsigned char c : text) {
         switch (c) {
             case '"':
@@ -310,7 +323,7 @@ std::string json_quote(std::string_view text) {
                 }
         }
     }
-    return out + '"';
+    out += '"';
 }
 
 namespace {

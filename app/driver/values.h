@@ -49,6 +49,9 @@ std::string shown_word(std::string_view word);
 /// Writes `text` as a JSON string literal.
 std::string json_quote(std::string_view text);
 
+/// Appends `json_quote(text)` to `out`.
+void append_json_quoted(std::string& out, std::string_view text);
+
 /// The transcript line of a box, prompt, memo or misfit answer.
 std::string transcript_line(const Shown& shown);
 

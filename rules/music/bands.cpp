@@ -52,19 +52,22 @@ std::span<const std::uint8_t> builtin_bands() {
     return {reinterpret_cast<const std::uint8_t*>(kBuiltinBandsData), kBandsBytes};
 }
 
-std::vector<std::filesystem::path> bands_search_path() {
-    std::vector<std::filesystem::path> places{"bands.dat"};
-    std::error_code ec;
-    const std::filesystem::path exe = std::filesystem::read_symlink("/proc/self/exe", ec);
-    if (!ec) places.push_back(exe.parent_path() / "bands.dat");
+const std::vector<std::filesystem::path>& bands_search_path() {
+    static const std::vector<std::filesystem::path> places = [] {
+        std::vector<std::filesystem::path> paths{"bands.dat"};
+        std::error_code ec;
+        const std::filesystem::path exe = std::filesystem::read_symlink("/proc/self/exe", ec);
+        if (!ec) paths.push_back(exe.parent_path() / "bands.dat");
 #ifdef TOURVANE_DATADIR_FROM_BIN
-    if (!ec)
-        places.push_back(
-            (exe.parent_path() / TOURVANE_DATADIR_FROM_BIN / "bands.dat").lexically_normal());
+        if (!ec)
+            paths.push_back(
+                (exe.parent_path() / TOURVANE_DATADIR_FROM_BIN / "bands.dat").lexically_normal());
 #endif
 #ifdef TOURVANE_DATADIR
-    places.push_back(std::filesystem::path(TOURVANE_DATADIR) / "bands.dat");
+        paths.push_back(std::filesystem::path(TOURVANE_DATADIR) / "bands.dat");
 #endif
+        return paths;
+    }();
     return places;
 }
 

@@ -37,7 +37,8 @@ std::span<const std::uint8_t> builtin_bands();
 
 /// Where bands.dat is looked for, in order: the working directory, beside the program, and
 /// the installed data folder, first as it lies from the program and then by its full path.
-std::vector<std::filesystem::path> bands_search_path();
+/// Worked out once: where the program lies does not change while it runs.
+const std::vector<std::filesystem::path>& bands_search_path();
 
 /// Sets up the rival rows and the pool from the first whole file among `candidates`, read
 /// through the game's files, or from the built-in copy when there is none. Gives the file

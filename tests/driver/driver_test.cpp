@@ -124,6 +124,26 @@ TEST(Session, StartUpRunsBeforeTheFirstCommandThatIsNotQueueingOrAtTheEnd) {
     EXPECT_EQ(q.s.game().rnd.queued_left(), 0u);
 }
 
+TEST(Session, BegunAgainItPlaysAsANewSession) {
+    Script used;
+    used.lines(
+        "automemo off\ninput \"The Wasps\"\ninput \"Sam\"\nclick Form1.New\n"
+        "click main.command6\nclick main.command6\nnosuch\n"
+        "rnd 0.1 0.2 0.3\nanswer yes no\ninput \"left over\"");
+    ASSERT_TRUE(used.s.had_error());
+    used.s.begin_again();
+    EXPECT_FALSE(used.s.started());
+    EXPECT_FALSE(used.s.had_error());
+    // Nothing queued, typed or seen before is left: the name is asked for again and refused
+    // as empty, the draws come from the seed, and the memo that ends the game is answered.
+    const std::string script =
+        "rndleft\nget bandname\nclick Form1.New\ninput \"Ann\"\ninput \"Bo\"\n"
+        "click Form1.New\nclick main.hire\ndump\nset cash -1\nclick main.command6";
+    Script fresh;
+    EXPECT_EQ(used.lines(script), fresh.lines(script));
+    EXPECT_EQ(used.s.had_error(), fresh.s.had_error());
+}
+
 TEST(Session, RejectedCommandsChangeNothing) {
     Script r;
     r.lines("input \"The Wasps\"\ninput \"Sam\"\nclick Form1.New");

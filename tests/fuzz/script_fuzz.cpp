@@ -2,7 +2,7 @@
 // a command and run on one game, as the driver runs a script.
 
 #include <cstdint>
-#include <sstream>
+#include <ostream>
 #include <string_view>
 
 #include "app/driver/command.h"
@@ -11,9 +11,12 @@
 
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
     using namespace tourvane;
-    fuzz::MemoryFiles files;    // no save in any slot
-    std::ostream out(nullptr);  // swallows the transcript
-    driver::Session session(out, 1, files);
+    // One session for every input, begun again after each: a new one would build its whole
+    // game anew. The files go too, so that no input loads what an earlier one saved.
+    static fuzz::MemoryFiles files;
+    static std::ostream out(nullptr);  // swallows the transcript
+    static driver::Session session(out, 1, files);
+
     std::string_view text(reinterpret_cast<const char*>(data), size);
     while (!text.empty()) {
         const std::size_t end = text.find('\n');
@@ -22,8 +25,12 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
 
         const driver::ParsedLine parsed = driver::parse_line(line);
         FUZZ_CHECK(parsed.kind != driver::ParsedLine::Kind::Error || !parsed.error.empty());
-        if (!session.run_line(line)) break;
+        if (!session.run(parsed)) break;
     }
     session.finish();
+    // Done before returning, so that what this input allocated is freed within it, and
+    // libFuzzer sees no reason to look for a leak.
+    session.begin_again();
+    files.files.clear();
     return 0;
 }
