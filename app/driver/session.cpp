@@ -1,6 +1,7 @@
 #include "app/driver/session.h"
 
 #include <array>
+#include <charconv>
 #include <cstdio>
 #include <istream>
 #include <ostream>
@@ -63,7 +64,12 @@ const char* flag(bool b) {
 /// Appends NAME = VALUE, or NAME(INDEX) = VALUE for an element of an array, to `out`.
 void append_field_line(std::string& out, const Field& f, int index) {
     out += f.name;
-    if (index >= 0) out.append("(").append(std::to_string(index)).append(")");
+    if (index >= 0) {
+        char digits[16];
+        out += '(';
+        out.append(digits, std::to_chars(digits, digits + sizeof digits, index).ptr);
+        out += ')';
+    }
     out += " = ";
     append_field(out, f, index);
 }
@@ -168,17 +174,18 @@ void Session::execute(const Command& c) {
             do_set(c);
             break;
         case Verb::Dump: {
-            // Some 1,200 lines, laid in one string and written at once.
-            std::string text;
+            // Some 1,200 lines, each laid in the room the one before had; one flush at the end.
+            std::string line;
             const auto add = [&](const Field& f, int index) {
-                append_field_line(text, f, index);
-                text += '\n';
+                line.clear();
+                append_field_line(line, f, index);
+                line += '\n';
+                out_ << line;
             };
             for (const Field& f : fields_) {
                 if (!f.is_array()) add(f, -1);
                 for (int i = 0; i <= f.upper; ++i) add(f, i);
             }
-            out_ << text;
             out_.flush();
             break;
         }
