@@ -51,6 +51,11 @@ std::string target_name(const Command& c) {
     return shown_word(c.form + "." + c.control);
 }
 
+/// Says that the index or row (`what`) of the command lies outside its control.
+std::string out_of_bounds(const char* what, const Command& c) {
+    return what + (" " + shown_word(c.index_text)) + " out of bounds for " + target_name(c);
+}
+
 std::string hex_colour(std::uint32_t rgb) {
     char buf[16];
     std::snprintf(buf, sizeof buf, "%06X", static_cast<unsigned>(rgb & 0xFFFFFF));
@@ -210,7 +215,6 @@ void Session::execute(const Command& c) {
 
 void Session::do_click(const Command& c, bool dbl) {
     Game& g = *game_;
-    const std::string at = " " + shown_word(c.index_text) + " out of bounds for " + target_name(c);
     switch (dbl ? dblclick(g, c.form, c.control, c.index) : click(g, c.form, c.control, c.index)) {
         case ClickResult::Done:
             break;
@@ -236,10 +240,10 @@ void Session::do_click(const Command& c, bool dbl) {
             error(target_name(c) + " needs a row");
             break;
         case ClickResult::IndexOutOfBounds:
-            error("index" + at);
+            error(out_of_bounds("index", c));
             break;
         case ClickResult::RowOutOfBounds:
-            error("row" + at);
+            error(out_of_bounds("row", c));
             break;
     }
 }
@@ -294,8 +298,7 @@ void Session::do_control(const Command& c) {
     if (!array && !ctl) return error("unknown control " + target_name(c));
     if (!array && c.index >= 0) return error(target_name(c) + " takes no index");
     if (array && c.index < 0) return error(target_name(c) + " needs an index");
-    if (!ctl)
-        return error("index " + shown_word(c.index_text) + " out of bounds for " + target_name(c));
+    if (!ctl) return error(out_of_bounds("index", c));
 
     std::string line = "control " + c.form + "." + c.control;
     if (array) line += "(" + std::to_string(c.index) + ")";
