@@ -212,6 +212,15 @@ void append_field(std::string& out, const Field& f, int index) {
     out.append(buf, end.ptr);
 }
 
+namespace {
+
+/// Says that the value `text` lies outside the range from `lo` to `hi`.
+std::string out_of_range(std::string_view text, const std::string& lo, const std::string& hi) {
+    return "value " + shown_word(text) + " out of range " + lo + ".." + hi;
+}
+
+}  // namespace
+
 std::string check_field_value(FieldType type, std::string_view text) {
     switch (type) {
         case FieldType::String:
@@ -229,8 +238,7 @@ std::string check_field_value(FieldType type, std::string_view text) {
             const std::int64_t hi =
                 is_long ? std::numeric_limits<Long>::max() : std::numeric_limits<Integer>::max();
             if (*v < lo || *v > hi)
-                return "value " + shown_word(text) + " out of range " + std::to_string(lo) + ".." +
-                       std::to_string(hi);
+                return out_of_range(text, std::to_string(lo), std::to_string(hi));
             return {};
         }
         case FieldType::Date: {
@@ -238,8 +246,7 @@ std::string check_field_value(FieldType type, std::string_view text) {
             if (!v) return "malformed number " + shown_word(text);
             // The days a save file can hold: 1 January 100 to 31 December 9999.
             if (*v < kFirstDay || *v > kLastDay)
-                return "value " + shown_word(text) + " out of range " + format_decimal(kFirstDay) +
-                       ".." + format_decimal(kLastDay);
+                return out_of_range(text, format_decimal(kFirstDay), format_decimal(kLastDay));
             return {};
         }
     }
