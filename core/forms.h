@@ -41,8 +41,8 @@ struct Control {
     /// A control of `form`, started as `start`; the form lists it among its controls.
     Control(FormState& form, Control start);
 
-    const char* name = "";
-    int index = -1;  ///< index within a control array, -1 for a single control
+    std::string_view name;  ///< a literal: the name the rules and scripts use
+    int index = -1;         ///< index within a control array, -1 for a single control
     ControlKind kind = ControlKind::Label;
     Rect pos;
     std::string caption;
@@ -310,20 +310,40 @@ Control* find_control(FormT& form, std::string_view name, int index) {
     return found;
 }
 
-/// True when the control's name is that of a control array on this form.
+/// The control a click or a script names, and whether the name is that of a control array.
+struct NamedControl {
+    Control* control = nullptr;
+    bool array = false;
+};
+
+/// For a control array called `name`, its element `index`; for a single control, that
+/// control, whatever `index` is (a list's row, or a mistake for the caller to report).
+/// One pass over the form.
 template <class FormT>
-bool is_control_array(FormT& form, std::string_view name) {
-    bool arr = false;
+NamedControl named_control(FormT& form, std::string_view name, int index) {
+    NamedControl named;
+    Control* single = nullptr;
+    Control* element = nullptr;
     form.each([&](Control& c) {
-        if (name == c.name && c.index >= 0) arr = true;
+        if (c.name != name) return;
+        if (c.index < 0) {
+            if (!single) single = &c;
+        } else {
+            named.array = true;
+            if (!element && c.index == index) element = &c;
+        }
     });
-    return arr;
+    named.control = named.array ? element : single;
+    return named;
 }
 
 /// Unloads a form: its controls go back to how its next load starts them.
 template <class FormT>
 void unload(FormT& form) {
-    form = FormT{};
+    // Copied from one kept form rather than made anew, so the form keeps the room its strings
+    // and lists already have.
+    static const FormT fresh;
+    form = fresh;
 }
 
 }  // namespace tourvane

@@ -91,13 +91,13 @@ Target resolve(Game& g, std::string_view form_name, std::string_view name, int i
     Target t;
     bool known_form = with_form(g.forms, form_name, [&](auto& form) {
         t.form = &form;
-        if (is_control_array(form, name)) {
-            t.control = find_control(form, name, index);
+        const NamedControl named = named_control(form, name, index);
+        t.control = named.control;
+        if (named.array) {
             if (!t.control)
                 t.problem = index < 0 ? ClickResult::NeedsIndex : ClickResult::IndexOutOfBounds;
             return;
         }
-        t.control = find_control(form, name, -1);
         if (!t.control) {
             t.problem = ClickResult::UnknownControl;
         } else if (is_list(*t.control)) {
@@ -127,6 +127,12 @@ Control* find_control(Game& g, std::string_view form, std::string_view control, 
     Control* found = nullptr;
     with_form(g.forms, form, [&](auto& f) { found = find_control(f, control, index); });
     return found;
+}
+
+NamedControl named_control(Game& g, std::string_view form, std::string_view control, int index) {
+    NamedControl named;
+    with_form(g.forms, form, [&](auto& f) { named = named_control(f, control, index); });
+    return named;
 }
 
 ClickResult click(Game& g, std::string_view form, std::string_view control, int index) {

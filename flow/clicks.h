@@ -36,4 +36,7 @@ FormState* find_form(Game& g, std::string_view form);
 /// A control by form name, control name and index (-1 for a single control), or nullptr.
 Control* find_control(Game& g, std::string_view form, std::string_view control, int index);
 
+/// The control named on that form, as `named_control` finds it within a form.
+NamedControl named_control(Game& g, std::string_view form, std::string_view control, int index);
+
 }  // namespace tourvane

@@ -104,10 +104,10 @@ bool split_words(std::string_view line, std::vector<Word>& words, std::string& w
                 return false;
             }
             i = end;
-            words.push_back({std::string(line.substr(start, i - start)), true});
+            words.push_back({line.substr(start, i - start), true});
         } else {
             while (i < line.size() && !is_blank(line[i])) ++i;
-            words.push_back({std::string(line.substr(start, i - start)), false});
+            words.push_back({line.substr(start, i - start), false});
         }
     }
 }

@@ -29,9 +29,10 @@ enum class Verb {
     History,
 };
 
-/// A word of a line as written, or a JSON string literal (with its quotes).
+/// A word of a line as written, or a JSON string literal (with its quotes): a view into the
+/// line, valid while the line is.
 struct Word {
-    std::string text;
+    std::string_view text;
     bool quoted = false;
 };
 

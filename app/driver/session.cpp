@@ -37,12 +37,6 @@ constexpr std::array kRoutines{
     Routine{"events", events},
 };
 
-bool is_control_array(Game& g, std::string_view form, std::string_view control) {
-    bool array = false;
-    with_form(g.forms, form, [&](auto& f) { array = tourvane::is_control_array(f, control); });
-    return array;
-}
-
 bool is_list(const Control& c) {
     return c.kind == ControlKind::ListBox || c.kind == ControlKind::ComboBox;
 }
@@ -66,8 +60,9 @@ const char* flag(bool b) {
     return b ? "1" : "0";
 }
 
-/// Appends NAME = VALUE, or NAME(INDEX) = VALUE for an element of an array, to `out`.
-void append_field_line(std::string& out, const Field& f, int index) {
+/// Appends the start of a field's line, "NAME = ", or "NAME(INDEX) = " for an element of an
+/// array, to `out`.
+void append_field_head(std::string& out, const Field& f, int index) {
     out += f.name;
     if (index >= 0) {
         char digits[16];
@@ -76,7 +71,15 @@ void append_field_line(std::string& out, const Field& f, int index) {
         out += ')';
     }
     out += " = ";
-    append_field(out, f, index);
+}
+
+/// Calls f(field, index) for each line of a dump: each plain field, each element of an array.
+template <class F>
+void each_dump_line(const std::vector<Field>& fields, F&& f) {
+    for (const Field& field : fields) {
+        if (!field.is_array()) f(field, -1);
+        for (int i = 0; i <= field.upper; ++i) f(field, i);
+    }
 }
 
 }  // namespace
@@ -87,6 +90,9 @@ Session::Session(std::ostream& out, std::optional<std::uint64_t> seed, FilePort&
     game_->files = &files;
     blank_ = std::make_unique<const Game>(*game_);
     fields_ = fields(*game_);
+    each_dump_line(fields_, [&](const Field& f, int index) {
+        append_field_head(dump_heads_.emplace_back(), f, index);
+    });
 }
 
 void Session::begin_again() {
@@ -178,22 +184,9 @@ void Session::execute(const Command& c) {
         case Verb::Set:
             do_set(c);
             break;
-        case Verb::Dump: {
-            // Some 1,200 lines, each laid in the room the one before had; one flush at the end.
-            std::string line;
-            const auto add = [&](const Field& f, int index) {
-                line.clear();
-                append_field_line(line, f, index);
-                line += '\n';
-                out_ << line;
-            };
-            for (const Field& f : fields_) {
-                if (!f.is_array()) add(f, -1);
-                for (int i = 0; i <= f.upper; ++i) add(f, i);
-            }
-            out_.flush();
+        case Verb::Dump:
+            do_dump();
             break;
-        }
         case Verb::Control:
             do_control(c);
             break;
@@ -277,7 +270,8 @@ void Session::do_get(const Command& c) {
     if (!f) return error("unknown field " + shown_word(c.name));
     if (auto why = check_index(*f, c); !why.empty()) return error(why);
     std::string line;
-    append_field_line(line, *f, c.index);
+    append_field_head(line, *f, c.index);
+    append_field(line, *f, c.index);
     print(line);
 }
 
@@ -290,11 +284,23 @@ void Session::do_set(const Command& c) {
     store_field(*f, c.index, c.value);
 }
 
+void Session::do_dump() {
+    // Some 1,200 lines, in the room the last dump had, written at once.
+    dump_.clear();
+    auto head = dump_heads_.begin();
+    each_dump_line(fields_, [&](const Field& f, int index) {
+        dump_ += *head++;
+        append_field(dump_, f, index);
+        dump_ += '\n';
+    });
+    out_.write(dump_.data(), static_cast<std::streamsize>(dump_.size()));
+    out_.flush();
+}
+
 void Session::do_control(const Command& c) {
     Game& g = *game_;
     if (!find_form(g, c.form)) return error("unknown form " + shown_word(c.form));
-    const bool array = is_control_array(g, c.form, c.control);
-    const Control* ctl = find_control(g, c.form, c.control, array ? c.index : -1);
+    const auto [ctl, array] = named_control(g, c.form, c.control, c.index);
     if (!array && !ctl) return error("unknown control " + target_name(c));
     if (!array && c.index >= 0) return error(target_name(c) + " takes no index");
     if (array && c.index < 0) return error(target_name(c) + " needs an index");

@@ -57,6 +57,7 @@ class Session {
     void do_control(const Command& c);
     void do_form(const Command& c);
     void do_call(const Command& c);
+    void do_dump();
     void acknowledge_memos();
 
     std::ostream& out_;
@@ -68,6 +69,9 @@ class Session {
     bool automemo_ = true;
     int errors_ = 0;
     std::vector<Field> fields_;
+    /// The fixed start of each line of `dump`, "NAME = " or "NAME(INDEX) = ", in its order.
+    std::vector<std::string> dump_heads_;
+    std::string dump_;  ///< the text of the last `dump`, whose room the next one uses
 };
 
 /// Plays a whole script from `in`, printing to `out`. Returns the exit status: 0, or 1 when

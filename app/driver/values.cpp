@@ -297,7 +297,12 @@ std::string json_quote(std::string_view text) {
 
 void append_json_quoted(std::string& out, std::string_view text) {
     out += '"';
-    for (unsigned char c : text) {
+    std::size_t plain = 0;  // start of the characters not yet written, none escaped
+    for (std::size_t i = 0; i < text.size(); ++i) {
+        const auto c = static_cast<unsigned char>(text[i]);
+        if (c >= 0x20 && c != '"' && c != '\\') continue;
+        out.append(text, plain, i - plain);
+        plain = i + 1;
         switch (c) {
             case '"':
                 out += "\\\"";
@@ -320,16 +325,14 @@ void append_json_quoted(std::string& out, std::string_view text) {
             case '\f':
                 out += "\\f";
                 break;
-            default:
-                if (c < 0x20) {
-                    char buf[8];
-                    std::snprintf(buf, sizeof buf, "\\u%04x", c);
-                    out += buf;
-                } else {
-                    out += static_cast<char>(c);
-                }
+            default: {
+                char buf[8];
+                std::snprintf(buf, sizeof buf, "\\u%04x", c);
+                out += buf;
+            }
         }
     }
+    out.append(text, plain);
     out += '"';
 }
 

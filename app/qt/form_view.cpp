@@ -85,7 +85,7 @@ QString hover_text(const Control& c, const QString& cut_caption, const QString& 
 }
 
 std::string control_key(const Control& c) {
-    std::string key = c.name;
+    std::string key(c.name);
     if (c.index >= 0) key += "(" + std::to_string(c.index) + ")";
     return key;
 }
@@ -176,7 +176,7 @@ QWidget* FormView::build(Control& c) {
             break;
         }
     }
-    QString object_name = c.name;
+    QString object_name = QString::fromLatin1(c.name);
     if (c.index >= 0) object_name += "_" + QString::number(c.index);
     w->setObjectName(object_name);
     w->setProperty("kind", kind_name(c.kind));
@@ -303,7 +303,7 @@ bool FormView::refresh(Binding& b) {
             const int selected = c.selected < list->count() ? c.selected : -1;
             list->setCurrentRow(selected);
             if (selected < 0) list->clearSelection();
-            list->setAccessibleName(has_name ? named->second : QString(c.name));
+            list->setAccessibleName(has_name ? named->second : QString::fromLatin1(c.name));
             break;
         }
         case ControlKind::ComboBox: {
@@ -326,7 +326,7 @@ bool FormView::refresh(Binding& b) {
                 b.rows = c.rows;
             }
             combo->setCurrentIndex(c.selected < combo->count() ? c.selected : -1);
-            combo->setAccessibleName(has_name ? named->second : QString(c.name));
+            combo->setAccessibleName(has_name ? named->second : QString::fromLatin1(c.name));
             break;
         }
     }

@@ -170,7 +170,7 @@ TEST(Session, EveryControlOfEveryFormAnswersTheControlCommand) {
     int walked = 0;
     r.s.game().forms.each_form([&](FormState& form) {
         form.each([&](Control& c) {
-            std::string line = std::string("control ") + form.name + "." + c.name;
+            std::string line = std::string("control ") + form.name + "." + std::string(c.name);
             if (c.index >= 0) line += " " + std::to_string(c.index);
             EXPECT_EQ(r.lines(line).rfind(line.substr(0, line.find(' ', 8)), 0), 0u) << line;
             ++walked;

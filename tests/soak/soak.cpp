@@ -144,7 +144,7 @@ struct RandomAnswers final : ScriptedPort {
 
 struct Choice {
     const char* form;
-    const char* control;
+    std::string_view control;
     int index;  ///< array index or list row, -1 for none (below the rows of a list)
     bool dbl;
     double weight;
@@ -228,8 +228,8 @@ struct Soak {
         const ClickResult result =
             c.dbl ? dblclick(g, form, control, c.index) : click(g, form, control, c.index);
         ++clicks;
-        trail.push_back(std::string(c.dbl ? "dblclick " : "click ") + c.form + "." + c.control +
-                        (c.index >= 0 ? " " + std::to_string(c.index) : ""));
+        trail.push_back(std::string(c.dbl ? "dblclick " : "click ") + c.form + "." +
+                        std::string(control) + (c.index >= 0 ? " " + std::to_string(c.index) : ""));
         if (trail.size() > 12) trail.pop_front();
 
         HOLDS(result == ClickResult::Done);  // a control a person could click takes the click
