@@ -73,15 +73,6 @@ void append_field_head(std::string& out, const Field& f, int index) {
     out += " = ";
 }
 
-/// Calls f(field, index) for each line of a dump: each plain field, each element of an array.
-template <class F>
-void each_dump_line(const std::vector<Field>& fields, F&& f) {
-    for (const Field& field : fields) {
-        if (!field.is_array()) f(field, -1);
-        for (int i = 0; i <= field.upper; ++i) f(field, i);
-    }
-}
-
 }  // namespace
 
 Session::Session(std::ostream& out, std::optional<std::uint64_t> seed, FilePort& files)
@@ -90,9 +81,6 @@ Session::Session(std::ostream& out, std::optional<std::uint64_t> seed, FilePort&
     game_->files = &files;
     blank_ = std::make_unique<const Game>(*game_);
     fields_ = fields(*game_);
-    each_dump_line(fields_, [&](const Field& f, int index) {
-        append_field_head(dump_heads_.emplace_back(), f, index);
-    });
 }
 
 void Session::begin_again() {
@@ -285,14 +273,23 @@ void Session::do_set(const Command& c) {
 }
 
 void Session::do_dump() {
+    if (dump_lines_.empty()) {  // the first dump of the session lists its lines
+        for (const Field& f : fields_) {
+            const auto add = [&](int index) {
+                dump_lines_.push_back({&f, index, {}});
+                append_field_head(dump_lines_.back().head, f, index);
+            };
+            if (!f.is_array()) add(-1);
+            for (int i = 0; i <= f.upper; ++i) add(i);
+        }
+    }
     // Some 1,200 lines, in the room the last dump had, written at once.
     dump_.clear();
-    auto head = dump_heads_.begin();
-    each_dump_line(fields_, [&](const Field& f, int index) {
-        dump_ += *head++;
-        append_field(dump_, f, index);
+    for (const DumpLine& line : dump_lines_) {
+        dump_ += line.head;
+        append_field(dump_, *line.field, line.index);
         dump_ += '\n';
-    });
+    }
     out_.write(dump_.data(), static_cast<std::streamsize>(dump_.size()));
     out_.flush();
 }

@@ -69,9 +69,16 @@ class Session {
     bool automemo_ = true;
     int errors_ = 0;
     std::vector<Field> fields_;
-    /// The fixed start of each line of `dump`, "NAME = " or "NAME(INDEX) = ", in its order.
-    std::vector<std::string> dump_heads_;
-    std::string dump_;  ///< the text of the last `dump`, whose room the next one uses
+
+    /// A line of `dump`: a plain field (index -1) or an element, and the line's fixed start,
+    /// "NAME = " or "NAME(INDEX) = ".
+    struct DumpLine {
+        const Field* field;
+        int index;
+        std::string head;
+    };
+    std::vector<DumpLine> dump_lines_;  ///< in the order printed; listed by the first dump
+    std::string dump_;                  ///< the text of the last dump, whose room the next uses
 };
 
 /// Plays a whole script from `in`, printing to `out`. Returns the exit status: 0, or 1 when
