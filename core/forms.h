@@ -108,6 +108,11 @@ struct FormState {
     static Control coloured(Control c, std::uint32_t color);
 };
 
+/// A list box or a combo box: a control of rows, clicked at a row.
+inline bool is_list(const Control& c) {
+    return c.kind == ControlKind::ListBox || c.kind == ControlKind::ComboBox;
+}
+
 inline Control::Control(FormState& form, Control start) : Control(std::move(start)) {
     form.list(*this);
 }

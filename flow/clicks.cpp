@@ -76,10 +76,6 @@ const Rule* find_rule(std::string_view form, std::string_view control) {
     return nullptr;
 }
 
-bool is_list(const Control& c) {
-    return c.kind == ControlKind::ListBox || c.kind == ControlKind::ComboBox;
-}
-
 struct Target {
     ClickResult problem = ClickResult::Done;
     FormState* form = nullptr;

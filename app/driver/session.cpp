@@ -37,10 +37,6 @@ constexpr std::array kRoutines{
     Routine{"events", events},
 };
 
-bool is_list(const Control& c) {
-    return c.kind == ControlKind::ListBox || c.kind == ControlKind::ComboBox;
-}
-
 std::string target_name(const Command& c) {
     return shown_word(c.form + "." + c.control);
 }
