@@ -18,18 +18,40 @@ Control FormState::label(const char* name, Rect pos, std::string caption) {
     return make(name, ControlKind::Label, pos, std::move(caption));
 }
 
-Control FormState::click_label(const char* name, Rect pos, std::string caption, bool enabled) {
-    return make(name, ControlKind::ClickLabel, pos, std::move(caption), enabled);
-}
-
-Control FormState::hot_spot(const char* name, Rect pos, std::string tooltip, bool enabled) {
-    Control c = make(name, ControlKind::HotSpot, pos, {}, enabled);
-    c.tooltip = std::move(tooltip);
+Control FormState::click_label(const char* name, Rect pos, std::string caption, Routine rule,
+                               bool enabled) {
+    Control c = make(name, ControlKind::ClickLabel, pos, std::move(caption), enabled);
+    c.on_click = rule;
     return c;
 }
 
-Control FormState::option(const char* name, int index, Rect pos, std::string caption) {
-    return make(name, ControlKind::Option, pos, std::move(caption), true, index);
+Control FormState::hot_spot(const char* name, Rect pos, std::string tooltip, Routine rule,
+                            bool enabled) {
+    Control c = make(name, ControlKind::HotSpot, pos, {}, enabled);
+    c.tooltip = std::move(tooltip);
+    c.on_click = rule;
+    return c;
+}
+
+Control FormState::option(const char* name, int index, Rect pos, std::string caption,
+                          Routine rule) {
+    Control c = make(name, ControlKind::Option, pos, std::move(caption), true, index);
+    c.on_click = rule;
+    return c;
+}
+
+Control FormState::button(const char* name, Rect pos, std::string caption, Routine rule) {
+    Control c = make(name, ControlKind::Button, pos, std::move(caption));
+    c.on_click = rule;
+    return c;
+}
+
+Control FormState::list_box(const char* name, ControlKind kind, Rect pos, Routine rule,
+                            Routine on_dblclick, bool enabled) {
+    Control c = make(name, kind, pos, {}, enabled);
+    c.on_click = rule;
+    c.on_dblclick = on_dblclick;
+    return c;
 }
 
 Control FormState::coloured(Control c, std::uint32_t color) {
@@ -42,14 +64,15 @@ Control OfficeForm::promote_option(int index) {
                                              "High         £400"};
     static const Rect kPlaces[4] = {
         {157, 109, 92, 25}, {247, 109, 94, 25}, {156, 133, 91, 25}, {247, 133, 94, 25}};
-    return option("promote", index, kPlaces[index], kCaptions[index]);
+    return option("promote", index, kPlaces[index], kCaptions[index], Routine::promote);
 }
 
 Control GigForm::venue_option(int index) {
     static const char* const kVenueCaptions[5] = {"The Rose and Crown", "The Queens Head",
                                                   "Town Hall", "Nitro Nightclub",
                                                   "The Plaza Music Hall"};
-    return option("location", index, {32, 52 + 30 * index, 233, 25}, kVenueCaptions[index]);
+    return option("location", index, {32, 52 + 30 * index, 233, 25}, kVenueCaptions[index],
+                  Routine::gig_location);
 }
 
 Control GigForm::track_line(int index) {
@@ -57,7 +80,8 @@ Control GigForm::track_line(int index) {
 }
 
 Control SaveForm::slot_option(int index) {
-    return option("saveslot", index, {32, 40 + 34 * index, 185, 29}, "GAME SLOT 1");
+    return option("saveslot", index, {32, 40 + 34 * index, 185, 29}, "GAME SLOT 1",
+                  Routine::saveslot);
 }
 
 Control ChartForm::chart_line(int index) {

@@ -1,7 +1,5 @@
 #include "flow/clicks.h"
 
-#include <array>
-
 #include "core/diary.h"
 #include "core/ui.h"
 #include "flow/office.h"
@@ -23,57 +21,79 @@ namespace tourvane {
 
 namespace {
 
-/// What a control does when clicked, and when double-clicked (list boxes only).
-struct Rule {
-    std::string_view form;
-    std::string_view control;
-    void (*on_click)(Game&, int index);
-    void (*on_dblclick)(Game&);
-};
-
-template <void (*F)(Game&)>
-void plain(Game& g, int) {
-    F(g);
-}
-
-constexpr std::array kRules{
-    Rule{"Form1", "New", plain<Form1_New>, nullptr},
-    Rule{"Form1", "Label4", plain<Form1_Label4>, nullptr},
-    Rule{"Form1", "load", plain<Form1_load>, nullptr},
-    Rule{"main", "command6", plain<command6>, nullptr},
-    Rule{"main", "label13", plain<label13>, nullptr},
-    Rule{"main", "command4", plain<command4>, nullptr},
-    Rule{"main", "secret", plain<secret>, nullptr},
-    Rule{"main", "command3", plain<command3>, nullptr},
-    Rule{"main", "command1", plain<command1>, nullptr},
-    Rule{"main", "interview", plain<interview>, nullptr},
-    Rule{"main", "holiday", plain<holiday>, nullptr},
-    Rule{"main", "command5", plain<command5>, nullptr},
-    Rule{"main", "exitbtn", plain<exitbtn>, nullptr},
-    Rule{"main", "promote", promote, nullptr},
-    Rule{"main", "songlist", plain<songlist_click>, songlist_dblclick},
-    Rule{"main", "hire", plain<hire>, nullptr},
-    Rule{"main", "dismiss", plain<dismiss>, nullptr},
-    Rule{"main", "members", plain<members_click>, members_dblclick},
-    Rule{"main", "Command2", plain<Command2>, nullptr},
-    Rule{"messageForm", "command1", plain<memo_ok>, nullptr},
-    Rule{"gig", "location", gig_location, nullptr},
-    Rule{"gig", "command1", plain<gig_command1>, nullptr},
-    Rule{"gig", "Combo1", plain<gig_Combo1>, nullptr},
-    Rule{"gig", "command3", plain<gig_command3>, nullptr},
-    Rule{"gig", "Command2", plain<gig_Command2>, nullptr},
-    Rule{"gig", "command4", plain<gig_command4>, nullptr},
-    Rule{"thenewspaper", "Label2", plain<thenewspaper_Label2>, nullptr},
-    Rule{"Chart", "command1", plain<Chart_command1>, nullptr},
-    Rule{"savefrm", "save", plain<savefrm_save>, nullptr},
-    Rule{"savefrm", "load", plain<savefrm_load>, nullptr},
-    Rule{"savefrm", "back", plain<savefrm_back>, nullptr},
-};
-
-const Rule* find_rule(std::string_view form, std::string_view control) {
-    for (const Rule& rule : kRules)
-        if (rule.form == form && rule.control == control) return &rule;
-    return nullptr;
+/// Runs the routine a control names; `index` is the option's index or the list's row.
+void run(Game& g, Routine routine, int index) {
+    switch (routine) {
+        case Routine::None:
+        case Routine::saveslot:  // the dispatcher has marked the slot: that is all
+            return;
+        case Routine::Form1_New:
+            return Form1_New(g);
+        case Routine::Form1_load:
+            return Form1_load(g);
+        case Routine::Form1_Label4:
+            return Form1_Label4(g);
+        case Routine::command6:
+            return command6(g);
+        case Routine::label13:
+            return label13(g);
+        case Routine::command4:
+            return command4(g);
+        case Routine::secret:
+            return secret(g);
+        case Routine::command3:
+            return command3(g);
+        case Routine::command1:
+            return command1(g);
+        case Routine::interview:
+            return interview(g);
+        case Routine::holiday:
+            return holiday(g);
+        case Routine::command5:
+            return command5(g);
+        case Routine::exitbtn:
+            return exitbtn(g);
+        case Routine::promote:
+            return promote(g, index);
+        case Routine::songlist_click:
+            return songlist_click(g);
+        case Routine::songlist_dblclick:
+            return songlist_dblclick(g);
+        case Routine::hire:
+            return hire(g);
+        case Routine::dismiss:
+            return dismiss(g);
+        case Routine::members_click:
+            return members_click(g);
+        case Routine::members_dblclick:
+            return members_dblclick(g);
+        case Routine::Command2:
+            return Command2(g);
+        case Routine::memo_ok:
+            return memo_ok(g);
+        case Routine::gig_location:
+            return gig_location(g, index);
+        case Routine::gig_command1:
+            return gig_command1(g);
+        case Routine::gig_Combo1:
+            return gig_Combo1(g);
+        case Routine::gig_command3:
+            return gig_command3(g);
+        case Routine::gig_command4:
+            return gig_command4(g);
+        case Routine::gig_Command2:
+            return gig_Command2(g);
+        case Routine::thenewspaper_Label2:
+            return thenewspaper_Label2(g);
+        case Routine::savefrm_save:
+            return savefrm_save(g);
+        case Routine::savefrm_load:
+            return savefrm_load(g);
+        case Routine::savefrm_back:
+            return savefrm_back(g);
+        case Routine::Chart_command1:
+            return Chart_command1(g);
+    }
 }
 
 struct Target {
@@ -146,16 +166,15 @@ ClickResult click(Game& g, std::string_view form, std::string_view control, int 
             });
         });
     }
-    if (const Rule* rule = find_rule(form, control); rule && rule->on_click)
-        rule->on_click(g, index);
+    run(g, t.control->on_click, index);
     return ClickResult::Done;
 }
 
 ClickResult dblclick(Game& g, std::string_view form, std::string_view control, int row) {
     Target t = resolve(g, form, control, row);
     if (t.problem != ClickResult::Done) return t.problem;
-    const Rule* rule = find_rule(form, control);
-    if (!rule || !rule->on_dblclick) return ClickResult::NotAList;
+    const Routine on_dblclick = t.control->on_dblclick;
+    if (on_dblclick == Routine::None) return ClickResult::NotAList;
     if (!takes_clicks(t)) return ClickResult::NotUsableNow;
     if (row >= 0) {
         ClickResult first = click(g, form, control, row);
@@ -163,7 +182,7 @@ ClickResult dblclick(Game& g, std::string_view form, std::string_view control, i
     } else {
         t.control->selected = -1;
     }
-    rule->on_dblclick(g);
+    run(g, on_dblclick, row);
     return ClickResult::Done;
 }
 
