@@ -250,7 +250,7 @@ struct OfficeForm : FormState {
     Control txtdate{*this, label("txtdate", {448, 442, 129, 25})};
 
     /// The nine hot-spots in the order they stand in the picture's left column.
-    std::array<Control*, 9> hotspots() {
+    std::array<const Control*, 9> hotspots() const {
         return {&command6, &label13,   &command4, &secret,  &command3,
                 &command1, &interview, &holiday,  &command5};
     }

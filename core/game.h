@@ -69,6 +69,10 @@ struct Game {
 
     /// How many loads have put another career's history in place of the one before.
     unsigned history_loads = 0;
+
+    /// Where the current stretch of play begins in `diary`: 0, or the loaded career's diary
+    /// length at the latest load.
+    std::size_t diary_at_load = 0;
 };
 
 }  // namespace tourvane

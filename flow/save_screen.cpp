@@ -98,6 +98,7 @@ void savefrm_load(Game& g) {
     g.diary = std::move(career.diary);
     g.history = std::move(career.history);
     g.segments = std::move(career.segments);
+    g.diary_at_load = g.diary.size();
     ++g.history_loads;
     begin_segment(g);
     unload(g.forms.Form1);

@@ -7,12 +7,12 @@
 #include <QLabel>
 #include <QLineEdit>
 #include <QPushButton>
-#include <QShortcut>
 #include <QSortFilterProxyModel>
 #include <QStyledItemDelegate>
 #include <QTreeView>
 #include <QVBoxLayout>
 
+#include "app/qt/shortcuts.h"
 #include "app/qt/window_style.h"
 #include "core/diary.h"
 #include "core/ui.h"
@@ -105,40 +105,35 @@ class DiaryModel : public QAbstractTableModel {
     std::size_t shown_ = 0;
 };
 
-/// Keeps the rows from one sender (or all) that hold the searched words.
-class DiaryFilter : public QSortFilterProxyModel {
+/// Keeps the rows the diary's filter shows.
+class DiaryProxy : public QSortFilterProxyModel {
   public:
-    using QSortFilterProxyModel::QSortFilterProxyModel;
+    DiaryProxy(const DiaryModel& model, QObject* parent)
+        : QSortFilterProxyModel(parent), model_(model) {}
 
     void set_sender(const QString& sender) {
-        sender_ = sender;
+        filter_.sender = sender.toStdString();
         invalidateFilter();
     }
     void set_search(const QString& words) {
-        search_ = words.simplified();
+        filter_.search(words.toStdString());
         invalidateFilter();
     }
 
   protected:
     bool filterAcceptsRow(int row, const QModelIndex&) const override {
-        const QAbstractItemModel* m = sourceModel();
-        if (!sender_.isEmpty() && m->index(row, kFrom).data().toString() != sender_) return false;
-        if (search_.isEmpty()) return true;
-        for (int column = 0; column < kColumns; ++column)
-            if (m->index(row, column).data().toString().contains(search_, Qt::CaseInsensitive))
-                return true;
-        return false;
+        return filter_.shows(model_.entry(row));
     }
 
   private:
-    QString sender_;
-    QString search_;
+    const DiaryModel& model_;
+    DiaryFilter filter_;
 };
 
 DiaryWindow::DiaryWindow(const Game& g)
     : g_(g),
       model_(new DiaryModel(g.diary, this)),
-      filter_(new DiaryFilter(this)),
+      filter_(new DiaryProxy(*model_, this)),
       senders_(new QComboBox(this)),
       search_(new QLineEdit(this)),
       entries_(new QTreeView(this)),
@@ -146,7 +141,7 @@ DiaryWindow::DiaryWindow(const Game& g)
     setObjectName("diary");
     setWindowTitle("Diary");
     setAccessibleName("Diary");
-    dress_side_window(*this);
+    dress_side_window(*this, place::kDiary);
     resize(660, 460);
     setMinimumSize(420, 260);
 
@@ -154,13 +149,13 @@ DiaryWindow::DiaryWindow(const Game& g)
     heading->setProperty("role", "heading");
     auto* about = new QLabel("Every memo and message of this run, newest first.", this);
 
-    auto* from_label = new QLabel("&From:", this);
+    auto* from_label = new QLabel("From:", this);
     from_label->setBuddy(senders_);
     senders_->setAccessibleName("From");
     senders_->setAccessibleDescription("Show the messages of one sender, or of everyone");
-    senders_->addItem("Everyone", QString());
+    senders_->addItem(QString::fromLatin1(kEveryone), QString());
     senders_->setMinimumContentsLength(12);
-    auto* search_label = new QLabel("&Search:", this);
+    auto* search_label = new QLabel("Search:", this);
     search_label->setBuddy(search_);
     search_->setAccessibleName("Search");
     search_->setAccessibleDescription("Show only the messages that hold these words");
@@ -224,11 +219,15 @@ DiaryWindow::DiaryWindow(const Game& g)
         show_count();
     });
     connect(filter_, &QAbstractItemModel::rowsInserted, this, [this] { show_count(); });
-    auto* find = new QShortcut(QKeySequence::Find, this);
-    connect(find, &QShortcut::activated, this, [this] {
-        search_->setFocus(Qt::ShortcutFocusReason);
-        search_->selectAll();
-    });
+    bind_keys(*this, place::kDiary, {KeyAction::ChooseSender, KeyAction::Search},
+              [this](const KeyBinding& b) {
+                  if (b.action == KeyAction::ChooseSender) {
+                      senders_->setFocus(Qt::ShortcutFocusReason);
+                      return;
+                  }
+                  search_->setFocus(Qt::ShortcutFocusReason);
+                  search_->selectAll();
+              });
     show_count();
 }
 
@@ -258,31 +257,20 @@ void DiaryWindow::showEvent(QShowEvent* event) {
 }
 
 void DiaryWindow::take_senders() {
-    if (loads_seen_ != g_.history_loads) {  // another career's diary: its own senders
-        while (senders_->count() > 1) senders_->removeItem(1);
-        seen_senders_.clear();
-        senders_read_ = 0;
-    }
-    for (; senders_read_ < g_.diary.size(); ++senders_read_) {
-        const DiaryEntry& e = g_.diary[senders_read_];
-        if (!seen_senders_.insert(e.from).second) continue;
-        // Senders stay in alphabetical order after "Everyone".
-        int at = 1;
-        while (at < senders_->count() && senders_->itemText(at) < qs(e.from)) ++at;
-        senders_->insertItem(at, qs(e.from), qs(e.from));
-    }
+    if (!senders_seen_.take(g_)) return;
+    // The filter keeps its choice where the sender is still in the list.
+    const QString chosen = senders_->currentData().toString();
+    const QSignalBlocker quiet(senders_);
+    while (senders_->count() > 1) senders_->removeItem(1);
+    for (const std::string& name : senders_seen_.names()) senders_->addItem(qs(name), qs(name));
+    const int at = senders_->findData(chosen);
+    senders_->setCurrentIndex(at < 0 ? 0 : at);
+    if (at < 0 && !chosen.isEmpty()) filter_->set_sender(QString());
 }
 
 void DiaryWindow::show_count() {
-    const int shown = filter_->rowCount();
-    const int all = model_->rowCount({});
-    QString text;
-    if (all == 0)
-        text = "Nothing yet: memos and messages will be listed here as they come.";
-    else if (shown == all)
-        text = all == 1 ? "1 message" : QString("%1 messages").arg(all);
-    else
-        text = QString("%1 of %2 messages").arg(shown).arg(all);
+    const QString text = qs(diary_count_line(static_cast<std::size_t>(filter_->rowCount()),
+                                             static_cast<std::size_t>(model_->rowCount({}))));
     count_->setText(text);
     count_->setAccessibleDescription(text);
 }

@@ -4,9 +4,9 @@
 // while it is open.
 
 #include <QWidget>
-#include <set>
 
 #include "core/game.h"
+#include "view/diary.h"
 
 class QComboBox;
 class QLabel;
@@ -16,7 +16,7 @@ class QTreeView;
 namespace tourvane {
 
 class DiaryModel;
-class DiaryFilter;
+class DiaryProxy;
 
 class DiaryWindow : public QWidget {
     Q_OBJECT
@@ -41,14 +41,13 @@ class DiaryWindow : public QWidget {
 
     const Game& g_;
     DiaryModel* model_;
-    DiaryFilter* filter_;
+    DiaryProxy* filter_;
     QComboBox* senders_;
     QLineEdit* search_;
     QTreeView* entries_;
     QLabel* count_;
-    std::set<std::string> seen_senders_;
-    std::size_t senders_read_ = 0;  ///< diary entries whose sender is in the filter
-    unsigned loads_seen_ = 0;       ///< the game's history loads when the diary was last shown
+    DiarySenders senders_seen_;
+    unsigned loads_seen_ = 0;  ///< the game's history loads when the diary was last shown
 };
 
 }  // namespace tourvane

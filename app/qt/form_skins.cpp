@@ -66,20 +66,8 @@ QString dark(const char* extra) {
 
 }  // namespace
 
-const std::vector<std::pair<std::string, QKeySequence>>& office_keys() {
-    static const std::vector<std::pair<std::string, QKeySequence>> keys{
-        {"command6", QKeySequence(Qt::Key_N)},  {"label13", QKeySequence(Qt::Key_M)},
-        {"command4", QKeySequence(Qt::Key_P)},  {"secret", QKeySequence(Qt::Key_C)},
-        {"command3", QKeySequence(Qt::Key_S)},  {"command1", QKeySequence(Qt::Key_R)},
-        {"interview", QKeySequence(Qt::Key_I)}, {"holiday", QKeySequence(Qt::Key_H)},
-        {"command5", QKeySequence(Qt::Key_V)},
-    };
-    return keys;
-}
-
 FormSkin title_skin() {
     FormSkin s;
-    s.title = "Tourvane";
     s.picture = [](QPainter& p, const FormView&) { paint_title(p); };
     s.style_sheet = R"(
 * { font-family: "Liberation Sans", Arial; }
@@ -96,26 +84,13 @@ QPushButton[kind="click"]:pressed { background: #c9973f; color: #1a1018; }
 QPushButton[kind="click"]:focus { border: 1px solid #fff0c8; }
 QPushButton[kind="click"]:disabled { color: #6d665c; }
 )";
-    s.names = {{"Label2", "Tourvane"}};
-    s.keys = {{"New", QKeySequence(Qt::Key_N)}, {"load", QKeySequence(Qt::Key_L)}};
-    s.close_control = "Label4";
-    s.focus_control = "New";
     return s;
 }
 
 FormSkin office_skin() {
     FormSkin s;
-    s.title = "Tourvane";
     s.picture = [](QPainter& p, const FormView& view) {
-        std::vector<DrawnButton> buttons;
-        for (const auto& [key, sequence] : office_keys()) {
-            const Control* c = view.control(key);
-            if (!c || !c->visible) continue;
-            buttons.push_back({QRect(c->pos.left, c->pos.top, c->pos.width, c->pos.height),
-                               QString::fromStdString(c->tooltip), sequence.toString().at(0),
-                               c->enabled});
-        }
-        paint_office(p, buttons);
+        paint_office(p, drawn_buttons(static_cast<const OfficeForm&>(view.form())));
     };
     s.style_sheet = dark(R"(
 QLabel#txtname {
@@ -142,22 +117,11 @@ QLabel#txtdate { color: #f5e6c8; font-size: 15px; font-weight: bold; }
 QLabel#txtapplicant { color: #ece6da; qproperty-alignment: 'AlignLeft | AlignTop'; }
 QRadioButton { font-size: 10px; }
 )");
-    s.names = {{"txtname", "Office"},         {"exitbtn", "Quit"},
-               {"songlist", "Track list"},    {"members", "Band members"},
-               {"txtapplicant", "Applicant"}, {"txtage", "Age"},
-               {"txtsex", "Gender"},          {"txtinstrument", "Instrument"},
-               {"txttalent", "Talent"},       {"txtcharisma", "Charisma"},
-               {"txtattitude", "Attitude"},   {"txtlooks", "Appearance"},
-               {"txtcash", "Cash"},           {"txtdate", "Date"}};
-    s.keys = office_keys();
-    s.close_control = "exitbtn";
-    s.focus_control = "command6";
     return s;
 }
 
 FormSkin memo_skin() {
     FormSkin s;
-    s.title = "Message";
     s.picture = [](QPainter& p, const FormView&) { paint_memo(p); };
     s.style_sheet = R"(
 * { font-family: "Liberation Sans", Arial; font-size: 11px; color: #2b2620; }
@@ -176,16 +140,11 @@ QPushButton[kind="click"] {
 QPushButton[kind="click"]:hover { background: #8a2a22; color: #fff6e8; }
 QPushButton[kind="click"]:focus { border: 2px solid #8a2a22; }
 )";
-    s.names = {{"txtTo", "To"}, {"txtFrom", "From"}, {"thetxt", "Message"}};
-    s.close_control = "command1";
-    s.escape_control = "command1";
-    s.focus_control = "command1";
     return s;
 }
 
 FormSkin gig_skin() {
     FormSkin s;
-    s.title = "Play a Gig";
     s.picture = [](QPainter& p, const FormView&) { paint_gig(p); };
     s.style_sheet = dark(R"(
 QLabel#Label16, QLabel#Label2 {
@@ -203,18 +162,11 @@ QLabel#tracks_0, QLabel#tracks_1, QLabel#tracks_2 {
 QRadioButton { font-size: 12px; }
 QPushButton[kind="click"] { font-size: 12px; }
 )");
-    s.names = {{"txtcapacity", "Capacity"}, {"txtticket", "Ticket price"}, {"txthire", "Hire cost"},
-               {"Combo1", "Songs"},         {"tracks(0)", "Track 1"},      {"tracks(1)", "Track 2"},
-               {"tracks(2)", "Track 3"}};
-    s.close_control = "Command2";
-    s.escape_control = "Command2";
-    s.focus_control = "location(0)";
     return s;
 }
 
 FormSkin newspaper_skin() {
     FormSkin s;
-    s.title = "Gig Report";
     s.picture = [](QPainter& p, const FormView&) { paint_newspaper(p); };
     s.style_sheet = R"(
 * { font-family: "Liberation Serif", "Times New Roman", serif; font-size: 13px; color: #1e1c1a; }
@@ -232,16 +184,11 @@ QPushButton[kind="click"] {
 QPushButton[kind="click"]:hover { background: #1e1c1a; color: #f2ede0; }
 QPushButton[kind="click"]:focus { border: 2px solid #1e1c1a; }
 )";
-    s.names = {{"txtnews", "Review"}, {"txtattend", "Attendance"}, {"txtprofit", "Profit"}};
-    s.close_control = "Label2";
-    s.escape_control = "Label2";
-    s.focus_control = "Label2";
     return s;
 }
 
 FormSkin files_skin() {
     FormSkin s;
-    s.title = "Save and Load";
     s.picture = [](QPainter& p, const FormView&) { paint_files(p); };
     s.style_sheet = dark(R"(
 QLabel#Label2 {
@@ -249,15 +196,11 @@ QLabel#Label2 {
 }
 QRadioButton { font-size: 12px; font-weight: bold; }
 )");
-    s.close_control = "back";
-    s.escape_control = "back";
-    s.focus_control = "saveslot(0)";
     return s;
 }
 
 FormSkin chart_skin() {
     FormSkin s;
-    s.title = "Music Chart";
     s.picture = [](QPainter& p, const FormView&) { paint_chart(p); };
     s.model_colours = true;
     s.style_sheet = R"(
@@ -275,8 +218,6 @@ QPushButton[kind="click"] {
 QPushButton[kind="click"]:hover { background: #80ffff; color: #000080; }
 QPushButton[kind="click"]:focus { border: 2px solid #ffffff; }
 )";
-    for (int place = 1; place <= 10; ++place)
-        s.names["track(" + std::to_string(place) + ")"] = QString("Place %1").arg(place);
     s.finish = [](FormView& view) {
         // The white title stands over its black twin, which is softened into a shadow.
         view.widget("Label1")->raise();
@@ -284,9 +225,6 @@ QPushButton[kind="click"]:focus { border: 2px solid #ffffff; }
         blur->setBlurRadius(5);
         view.widget("Label2")->setGraphicsEffect(blur);
     };
-    s.close_control = "command1";
-    s.escape_control = "command1";
-    s.focus_control = "command1";
     return s;
 }
 

@@ -1,5 +1,5 @@
 #pragma once
-// The look of each of the seven screens: title, style, picture, accessible names and keys.
+// The look of each of the seven screens in Qt: style and picture.
 
 #include "app/qt/form_view.h"
 
@@ -12,8 +12,5 @@ FormSkin gig_skin();        ///< gig
 FormSkin newspaper_skin();  ///< thenewspaper
 FormSkin files_skin();      ///< savefrm
 FormSkin chart_skin();      ///< Chart
-
-/// The office's hot-spots with their keys, top to bottom (the keys D, G and F1 stay free).
-const std::vector<std::pair<std::string, QKeySequence>>& office_keys();
 
 }  // namespace tourvane

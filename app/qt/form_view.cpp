@@ -5,11 +5,12 @@
 #include <QLabel>
 #include <QPainter>
 #include <QRadioButton>
-#include <QShortcut>
 #include <QStyle>
 #include <QStyleOptionButton>
 
 #include "app/qt/control_widgets.h"
+#include "app/qt/shortcuts.h"
+#include "view/controls.h"
 
 namespace tourvane {
 
@@ -78,24 +79,13 @@ int caption_room(const QAbstractButton& button, bool option) {
 
 }  // namespace
 
-QString hover_text(const Control& c, const QString& cut_caption, const QString& reason) {
-    if (reason.isEmpty())
-        return cut_caption.isEmpty() ? QString::fromStdString(c.tooltip) : cut_caption;
-    return cut_caption.isEmpty() ? reason : cut_caption + "\n" + reason;
-}
-
-std::string control_key(const Control& c) {
-    std::string key(c.name);
-    if (c.index >= 0) key += "(" + std::to_string(c.index) + ")";
-    return key;
-}
-
-FormView::FormView(FormState& form, std::vector<Control*> controls, FormSkin skin)
-    : QWidget(nullptr), form_(form), skin_(std::move(skin)) {
+FormView::FormView(const Game& g, FormState& form, std::vector<Control*> controls, FormSkin skin)
+    : QWidget(nullptr), g_(g), form_(form), skin_(std::move(skin)), face_(screen_face(form.name)) {
     setObjectName(form.name);
     setFixedSize(form.width, form.height);
-    setWindowTitle(skin_.title);
-    setAccessibleName(skin_.title);
+    const QString title = QString::fromLatin1(face_.title);
+    setWindowTitle(title);
+    setAccessibleName(title);
     setAttribute(Qt::WA_StyledBackground, !skin_.picture);
     for (Control* c : controls) {
         Binding& b = bindings_.emplace_back();
@@ -106,14 +96,8 @@ FormView::FormView(FormState& form, std::vector<Control*> controls, FormSkin ski
     for (Binding& b : bindings_)
         if (auto* list = qobject_cast<ListBox*>(b.widget)) list->fit_whole_rows();
     if (skin_.finish) skin_.finish(*this);
-    for (const auto& [key, sequence] : skin_.keys) {
-        auto* shortcut = new QShortcut(sequence, this);
-        connect(shortcut, &QShortcut::activated, this, [this, key = key] { click_key(key); });
-    }
-    if (!skin_.escape_control.empty()) {
-        auto* escape = new QShortcut(QKeySequence(Qt::Key_Escape), this);
-        connect(escape, &QShortcut::activated, this, [this] { click_key(skin_.escape_control); });
-    }
+    bind_keys(*this, form.name, {KeyAction::Click},
+              [this](const KeyBinding& b) { click_key(std::string(b.control)); });
     refresh();
 }
 
@@ -210,8 +194,7 @@ bool FormView::refresh(Binding& b) {
         const QSignalBlocker quiet(combo);
         combo->setCurrentIndex(c.selected < combo->count() ? c.selected : -1);
     }
-    const std::string reason =
-        c.kind != ControlKind::Label && !c.enabled && explain_ ? explain_(form_, c) : std::string();
+    const std::string reason = grey_reason(g_, form_, c);
     const bool coloured = c.rule_colour || (skin_.model_colours && c.kind == ControlKind::Label);
     if (b.copied && b.rows == c.rows && b.caption == c.caption && b.tooltip == c.tooltip &&
         b.reason == reason && b.enabled == c.enabled && b.visible == c.visible &&
@@ -224,9 +207,8 @@ bool FormView::refresh(Binding& b) {
     b.enabled = c.enabled;
     b.visible = c.visible;
 
-    const auto named = skin_.names.find(control_key(c));
-    const bool has_name = named != skin_.names.end();
     const QString caption = qs(c.caption);
+    const QString name = qs(accessible_name(form_, c));
 
     bool cut = false;  // the caption is shown cut short with "…"
     w->setEnabled(c.enabled);
@@ -241,12 +223,7 @@ bool FormView::refresh(Binding& b) {
                                       : fit_line(caption, label->fontMetrics(), room.width());
             if (label->text() != shown) label->setText(shown);
             cut = shown != caption;
-            if (has_name) {
-                label->setAccessibleName(named->second);
-                label->setAccessibleDescription(caption);
-            } else {
-                label->setAccessibleName(caption);
-            }
+            label->setAccessibleName(name);
             break;
         }
         case ControlKind::ClickLabel:
@@ -258,11 +235,11 @@ bool FormView::refresh(Binding& b) {
             // Captions of buttons read '&' as a mnemonic; the game's captions mean the character.
             button->setText(QString(shown).replace('&', "&&"));
             cut = shown != caption;
-            button->setAccessibleName(has_name ? named->second : caption);
+            button->setAccessibleName(name);
             break;
         }
         case ControlKind::HotSpot:
-            w->setAccessibleName(has_name ? named->second : qs(c.tooltip));
+            w->setAccessibleName(name);
             break;
         case ControlKind::Option: {
             auto* option = static_cast<QRadioButton*>(w);
@@ -278,7 +255,7 @@ bool FormView::refresh(Binding& b) {
             option->setText(QString(shown).replace('&', "&&"));
             cut = shown != caption;
             option->setChecked(c.value);
-            option->setAccessibleName(has_name ? named->second : caption.simplified());
+            option->setAccessibleName(name);
             break;
         }
         case ControlKind::ListBox: {
@@ -303,7 +280,7 @@ bool FormView::refresh(Binding& b) {
             const int selected = c.selected < list->count() ? c.selected : -1;
             list->setCurrentRow(selected);
             if (selected < 0) list->clearSelection();
-            list->setAccessibleName(has_name ? named->second : QString::fromLatin1(c.name));
+            list->setAccessibleName(name);
             break;
         }
         case ControlKind::ComboBox: {
@@ -326,21 +303,15 @@ bool FormView::refresh(Binding& b) {
                 b.rows = c.rows;
             }
             combo->setCurrentIndex(c.selected < combo->count() ? c.selected : -1);
-            combo->setAccessibleName(has_name ? named->second : QString::fromLatin1(c.name));
+            combo->setAccessibleName(name);
             break;
         }
     }
 
     // A hover tells the whole caption where it is cut short, and a grey control says why;
     // enabled again, it has its usual tip back.
-    const QString tip = hover_text(c, cut ? caption : QString(), qs(reason));
-    w->setToolTip(tip);
-    if (c.kind != ControlKind::Label) {
-        const bool named_by_tip = c.kind == ControlKind::HotSpot && reason.empty();
-        w->setAccessibleDescription(named_by_tip ? QString() : tip);
-    } else if (!has_name) {
-        w->setAccessibleDescription(cut ? caption : QString());
-    }
+    w->setToolTip(qs(hover_text(c, cut, reason)));
+    w->setAccessibleDescription(qs(accessible_description(form_, c, cut, reason)));
 
     if (coloured && (!b.coloured || b.colour != c.color)) {
         w->setStyleSheet(QStringLiteral("color: #%1;").arg(c.color, 6, 16, QLatin1Char('0')));
@@ -383,7 +354,7 @@ void FormView::click_key(const std::string& key) {
 }
 
 void FormView::focus_first() {
-    if (QWidget* w = widget(skin_.focus_control); w && w->isEnabled() && w->isVisible())
+    if (QWidget* w = widget(face_.focus_control); w && w->isEnabled() && w->isVisible())
         w->setFocus(Qt::ActiveWindowFocusReason);
 }
 
@@ -399,7 +370,7 @@ void FormView::paintEvent(QPaintEvent* event) {
 void FormView::closeEvent(QCloseEvent* event) {
     // The window stays as the game has it; the frame's close button is a click like any other.
     event->ignore();
-    if (const Binding* b = find(skin_.close_control)) emit controlClicked(b->control, -1);
+    if (const Binding* b = find(face_.close_control)) emit controlClicked(b->control, -1);
 }
 
 }  // namespace tourvane

@@ -9,8 +9,8 @@
 #include "app/qt/form_skins.h"
 #include "app/qt/pictures.h"
 #include "app/qt/qt_port.h"
+#include "app/qt/shortcuts.h"
 #include "flow/clicks.h"
-#include "flow/reasons.h"
 
 namespace tourvane {
 
@@ -78,16 +78,13 @@ GameWindows::~GameWindows() {
 }
 
 FormView* GameWindows::build(Screen& screen) {
-    screen.view.reset(make_form_view(*screen.form, screen.skin()));
+    screen.view.reset(make_form_view(g_, *screen.form, screen.skin()));
     FormView* view = screen.view.get();
     if (!icon_.isNull()) view->setWindowIcon(icon_);
-    view->set_explainer(
-        [this](const FormState& form, const Control& c) { return disabled_reason(g_, form, c); });
     connect(view, &FormView::controlClicked, this,
             [this, view](const Control* c, int index) { forward(view, c, index, false); });
     connect(view, &FormView::controlDoubleClicked, this,
             [this, view](const Control* c, int row) { forward(view, c, row, true); });
-    view->refresh();  // now with the reasons of grey controls
     quit_key_for(*view);
     if (screen.form == &g_.forms.main) {
         // The office opens the side windows with its keys.
@@ -101,8 +98,7 @@ FormView* GameWindows::build(Screen& screen) {
 }
 
 void GameWindows::quit_key_for(QWidget& window) {
-    auto* shortcut = new QShortcut(quit_key(), &window);
-    connect(shortcut, &QShortcut::activated, this, &GameWindows::quit);
+    bind_keys(window, place::kEverywhere, {KeyAction::Quit}, [this](const KeyBinding&) { quit(); });
 }
 
 FormView* GameWindows::view(std::string_view form) {
@@ -143,58 +139,40 @@ void GameWindows::forward(FormView* view, const Control* control, int index, boo
         for (Screen& s : screens_)
             if (s.view) s.view->hide();
         if (side_) side_->close_all();
-        shown_.clear();
         emit ended();
     }
 }
 
 void GameWindows::quit() {
-    FormView* title = view("Form1");
-    const bool at_title = title->form().loaded && title->form().visible;
-    FormView* window = at_title ? title : view("main");
-    if (const Control* c =
-            find_control(g_, window->form().name, at_title ? "Label4" : "exitbtn", -1))
-        forward(window, c, -1, false);
-}
-
-bool GameWindows::wanted(const Screen& screen) const {
-    return screen.form->loaded && screen.form->visible && !g_.ended;
+    const ControlRef target = quit_control(g_);
+    if (const Control* c = find_control(g_, target.form, target.control, -1))
+        forward(view(target.form), c, -1, false);
 }
 
 void GameWindows::refresh() {
     for (Screen& s : screens_) {
         if (s.view)
             s.view->refresh();
-        else if (wanted(s))
+        else if (wanted_open(g_, *s.form))
             build(s);
     }
-    for (Screen& s : screens_) {
-        FormView* view = s.view.get();
-        const bool forward = s.form->forward_requests != s.forward_seen;
-        s.forward_seen = s.form->forward_requests;
-        if (!view) continue;  // never wanted yet
-        const bool open = wanted(s);
-        if (open && view->isVisible() && forward) bring_forward(view);
-        if (open && !view->isVisible()) {
-            show_view(view);
-        } else if (!open && view->isVisible()) {
-            view->hide();
-            shown_.erase(std::remove(shown_.begin(), shown_.end(), view), shown_.end());
-        }
-    }
-    // When the window in front has closed, the latest window still open takes the keys.
-    const QWidget* active = QApplication::activeWindow();
-    if ((!active || !active->isVisible()) && !shown_.empty()) {
-        bring_forward(shown_.back());
-    }
-    // A memo stays in front of the office it has disabled.
-    if (FormView* memo = built("messageForm"); memo && memo->isVisible()) {
-        bring_forward(memo);
+    const ScreenChanges changes = order_.sync(g_);
+    for (const FormState* form : changes.closed) view(form->name)->hide();
+    for (const FormState* form : changes.opened) show_view(view(form->name));
+    if (changes.front) bring_forward(view(changes.front->name));
+    if (FormView* memo = built("messageForm"); memo && memo->isVisible())
         announce_memo(*memo);
-    } else {
+    else
         announced_memo_.clear();
-    }
     if (side_) side_->refresh();
+}
+
+FormView* GameWindows::latest_shown(const FormView* view) {
+    const auto& open = order_.open();
+    for (auto it = open.rbegin(); it != open.rend(); ++it)
+        if (FormView* shown = built((*it)->name); shown && shown != view && shown->isVisible())
+            return shown;
+    return nullptr;
 }
 
 void GameWindows::announce_memo(FormView& memo) {
@@ -210,7 +188,6 @@ void GameWindows::announce_memo(FormView& memo) {
 void GameWindows::show_view(FormView* view) {
     place(view);
     view->show();
-    shown_.push_back(view);
     bring_forward(view);
     view->focus_first();
 }
@@ -223,7 +200,7 @@ void GameWindows::place(FormView* view) {
     if (stays && std::find(placed_.begin(), placed_.end(), view) != placed_.end()) return;
 
     // What the window opens over: the latest window on show, else the office.
-    const QWidget* anchor = shown_.empty() ? nullptr : shown_.back();
+    const QWidget* anchor = latest_shown(view);
     if (name == "main") anchor = title->testAttribute(Qt::WA_Moved) ? title : nullptr;
     if (!anchor && office && office->testAttribute(Qt::WA_Moved) && view != office) anchor = office;
     const QRect screen = screen_area(anchor);
@@ -254,9 +231,9 @@ bool GameWindows::eventFilter(QObject* watched, QEvent* event) {
     if (!is_input(event->type()) || !watched->isWidgetType()) return false;
     FormView* view = view_of(static_cast<QWidget*>(watched)->window());
     if (!view || view->form().enabled) return false;
-    if (event->type() == QEvent::MouseButtonPress && !shown_.empty()) {
+    if (event->type() == QEvent::MouseButtonPress) {
         // A click on the disabled office brings forward what holds it up.
-        bring_forward(shown_.back());
+        if (FormView* latest = latest_shown()) bring_forward(latest);
     }
     return true;
 }

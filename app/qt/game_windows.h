@@ -38,9 +38,7 @@ class GameWindows : public QObject {
     /// The diary, the week graph and the key help, opened from the office.
     SideWindows& side();
 
-    /// What the quit key does in any window: EXIT while the title is up, else the office's
-    /// quit button, which asks first (and, like any click there, is refused while a screen or
-    /// a memo holds the office up).
+    /// What the quit key does in any window: clicks the quit control the game names.
     void quit();
 
   signals:
@@ -59,6 +57,8 @@ class GameWindows : public QObject {
     void show_view(FormView* view);
     void place(FormView* view);
     FormView* view_of(const QWidget* window) const;
+    /// The latest screen on show other than `view`, or nullptr.
+    FormView* latest_shown(const FormView* view = nullptr);
 
     /// A screen's window, built when first needed: the title at once, the others later, so
     /// that the title is on screen sooner.
@@ -66,11 +66,8 @@ class GameWindows : public QObject {
         FormState* form;
         FormSkin (*skin)();
         std::unique_ptr<FormView> view;
-        unsigned forward_seen = 0;  ///< the form's forward requests handled
     };
     FormView* build(Screen& screen);
-    /// A screen's window stands open while its form is loaded and visible and the game goes on.
-    bool wanted(const Screen& screen) const;
     /// The window of a screen if it has been built, else nullptr.
     FormView* built(std::string_view form) const;
     void quit_key_for(QWidget& window);
@@ -79,7 +76,7 @@ class GameWindows : public QObject {
     QIcon icon_;
     std::vector<Screen> screens_;
     std::unique_ptr<SideWindows> side_;
-    std::vector<FormView*> shown_;   ///< windows on show, in the order they were opened
+    ScreenOrder order_;              ///< the screens on show, in the order they were opened
     std::vector<FormView*> placed_;  ///< windows that stay where the player left them
     std::string announced_memo_;     ///< the memo last announced, or empty
     bool ended_ = false;

@@ -1,6 +1,6 @@
 #pragma once
-// The key help: a short list of every key of the office, the diary and the week graph, and
-// what Tourvane is: its version and licence.
+// The key help: every key of the game's key table, by where it works, and what Tourvane is:
+// its version and licence.
 
 #include <QWidget>
 
@@ -24,12 +24,5 @@ class KeyHelpWindow : public QWidget {
     QTreeWidget* keys_;
     QLabel* about_;
 };
-
-/// The keys that open the side windows from the office.
-QKeySequence diary_key();
-QKeySequence graph_key();
-QKeySequence help_key();
-/// Quits from any of the game's windows, as that window's own quit does.
-QKeySequence quit_key();
 
 }  // namespace tourvane

@@ -13,6 +13,8 @@
 #include <cmath>
 #include <cstdint>
 
+#include "view/keys.h"
+
 namespace tourvane {
 
 namespace {
@@ -279,6 +281,14 @@ void paint_office_room(QPainter& p, const QRect& all) {
 }
 
 }  // namespace
+
+std::vector<DrawnButton> drawn_buttons(const OfficeForm& office) {
+    std::vector<DrawnButton> drawn;
+    for (const OfficeButton& b : office_buttons(office))
+        drawn.push_back({QRect(b.rect.left, b.rect.top, b.rect.width, b.rect.height),
+                         QString::fromStdString(b.caption), QChar(b.key), b.enabled});
+    return drawn;
+}
 
 void paint_office(QPainter& p, const std::vector<DrawnButton>& buttons) {
     const QRect all = area(p);

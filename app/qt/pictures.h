@@ -10,6 +10,8 @@
 #include <QString>
 #include <vector>
 
+#include "core/forms.h"
+
 class QPainter;
 
 namespace tourvane {
@@ -21,6 +23,9 @@ struct DrawnButton {
     QChar key;  ///< the keyboard shortcut, underlined in the caption
     bool enabled = true;
 };
+
+/// The office's buttons as the office stands, to draw.
+std::vector<DrawnButton> drawn_buttons(const OfficeForm& office);
 
 /// The office: a rehearsal room with panels for the controls and the column of buttons.
 void paint_office(QPainter& p, const std::vector<DrawnButton>& buttons);

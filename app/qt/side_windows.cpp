@@ -3,9 +3,9 @@
 #include <QEvent>
 #include <QGuiApplication>
 #include <QScreen>
-#include <QShortcut>
 
 #include "app/qt/form_view.h"
+#include "app/qt/shortcuts.h"
 
 namespace tourvane {
 
@@ -15,11 +15,15 @@ SideWindows::SideWindows(Game& g, FormView& office)
       diary_(std::make_unique<DiaryWindow>(g)),
       graph_(std::make_unique<WeekGraphWindow>(g)),
       keys_(std::make_unique<KeyHelpWindow>(g)) {
-    const std::pair<QKeySequence, QWidget*> opens[] = {
-        {diary_key(), diary_.get()}, {graph_key(), graph_.get()}, {help_key(), keys_.get()}};
-    for (auto [key, window] : opens) {
-        auto* shortcut = new QShortcut(key, &office_);
-        connect(shortcut, &QShortcut::activated, this, [this, window = window] { open(*window); });
+    using enum KeyAction;
+    bind_keys(office_, "main", {OpenDiary, OpenGraph, OpenHelp}, [this](const KeyBinding& b) {
+        open(b.action == OpenDiary   ? static_cast<QWidget&>(*diary_)
+             : b.action == OpenGraph ? static_cast<QWidget&>(*graph_)
+                                     : static_cast<QWidget&>(*keys_));
+    });
+    for (QWidget* window :
+         {static_cast<QWidget*>(diary_.get()), static_cast<QWidget*>(graph_.get()),
+          static_cast<QWidget*>(keys_.get())}) {
         window->setWindowIcon(office_.windowIcon());
         window->installEventFilter(this);
     }

@@ -11,6 +11,7 @@
 #include <algorithm>
 #include <cmath>
 
+#include "app/qt/shortcuts.h"
 #include "app/qt/window_style.h"
 #include "core/ui.h"
 
@@ -22,26 +23,11 @@ const QColor kBackground("#141018"), kPlotPaper("#0d0b10"), kFrame("#4d4438"), k
 const QColor kInk("#ece6da"), kDim("#8a8172");
 const QColor kCashColour("#7fd67a"), kFansColour("#f0b650");
 
-/// Steps of the time axis in weeks: a week, a month or so, a quarter, half a year, years.
-constexpr int kWeekSteps[] = {1, 2, 4, 8, 13, 26, 52, 104, 156, 260, 520, 1040, 2600, 5200};
-
 /// Up to this many points, each is marked with a dot.
 constexpr std::size_t kDottedPoints = 60;
 
-/// The smallest of 1, 2 and 5 times a power of ten that is at least `raw` (and at least 1).
-double nice_step(double raw) {
-    if (!(raw > 1)) return 1;
-    const double power = std::pow(10.0, std::floor(std::log10(raw)));
-    for (double m : {1.0, 2.0, 5.0, 10.0})
-        if (m * power >= raw * (1 - 1e-12)) return m * power;
-    return 10 * power;
-}
-
-QString money(double pounds) {
-    const double a = std::fabs(pounds);
-    if (a >= 1e6) return QString("£ %1M").arg(pounds / 1e6, 0, 'g', 3);
-    if (a >= 1e5) return QString("£ %1k").arg(pounds / 1e3, 0, 'g', 4);
-    return QString("£ %1").arg(static_cast<qlonglong>(std::llround(pounds)));
+QString qs(const std::string& text) {
+    return QString::fromStdString(text);
 }
 
 QString day(const WeekSample& s) {
@@ -49,23 +35,6 @@ QString day(const WeekSample& s) {
 }
 
 }  // namespace
-
-std::vector<GraphPoint> graph_points(const Game& g) {
-    std::vector<GraphPoint> points;
-    const std::vector<WeekSample>& weeks = g.history;
-    const int stretches =
-        std::max(static_cast<int>(g.segments.size()), weeks.empty() ? 0 : weeks.back().segment + 1);
-    points.reserve(weeks.size() + g.segments.size());
-    std::size_t next = 0;
-    for (int k = 0; k < stretches; ++k) {
-        std::size_t end = next;
-        while (end < weeks.size() && weeks[end].segment == k) ++end;
-        if (end == next && k + 1 < stretches) continue;
-        if (k < static_cast<int>(g.segments.size())) points.push_back({g.segments[k], true});
-        for (; next < end; ++next) points.push_back({weeks[next], false});
-    }
-    return points;
-}
 
 WeekGraphView::WeekGraphView(QWidget* parent) : QWidget(parent) {
     setFocusPolicy(Qt::StrongFocus);
@@ -96,23 +65,7 @@ void WeekGraphView::set_current(int index) {
 }
 
 QString WeekGraphView::readout() const {
-    if (current_ < 0) return "No week played yet.";
-    const GraphPoint& p = points_[current_];
-    QString what;
-    if (p.start) {
-        what = (current_ == 0 ? "Start, " : "Game loaded, ") + day(p.sample);
-    } else {
-        int week = 0, weeks = 0;
-        for (int i = 0; i < static_cast<int>(points_.size()); ++i) {
-            if (points_[i].start) continue;
-            ++weeks;
-            if (i <= current_) ++week;
-        }
-        what = QString("Week %1 of %2, ending %3").arg(week).arg(weeks).arg(day(p.sample));
-    }
-    return QString("%1: cash %2, popularity %3")
-        .arg(what, QString::fromStdString(format_cash(p.sample.cash)))
-        .arg(p.sample.popularity);
+    return qs(graph_readout(points_, current_));
 }
 
 QRectF WeekGraphView::plot() const {
@@ -144,26 +97,10 @@ int WeekGraphView::index_at(double x) const {
 }
 
 void WeekGraphView::rescale() {
-    // Both scales include 0 and share the grid lines: the cash scale picks the number of
-    // intervals, and the popularity scale the step that fits its values into as many.
-    double cash_low = 0, cash_high = 0, fans_low = 0, fans_high = 0;
-    for (const GraphPoint& p : points_) {
-        cash_low = std::min(cash_low, double(p.sample.cash));
-        cash_high = std::max(cash_high, double(p.sample.cash));
-        fans_low = std::min(fans_low, double(p.sample.popularity));
-        fans_high = std::max(fans_high, double(p.sample.popularity));
-    }
-    cash_.step = nice_step((cash_high - cash_low) / 4);
-    cash_.low = std::floor(cash_low / cash_.step) * cash_.step;
-    intervals_ = std::max(1, static_cast<int>(std::ceil((cash_high - cash_.low) / cash_.step)));
-    fans_.step = nice_step((fans_high - fans_low) / intervals_);
-    while (true) {
-        fans_.low = std::floor(fans_low / fans_.step) * fans_.step;
-        if (fans_.low + fans_.step * intervals_ >= fans_high) break;
-        fans_.step = nice_step(fans_.step * 1.01);
-    }
-    cash_.high = cash_.low + cash_.step * intervals_;
-    fans_.high = fans_.low + fans_.step * intervals_;
+    const GraphScales scales = graph_scales(points_);
+    cash_ = scales.cash;
+    fans_ = scales.fans;
+    intervals_ = scales.intervals;
 }
 
 void WeekGraphView::paintEvent(QPaintEvent*) {
@@ -192,8 +129,7 @@ void WeekGraphView::paintEvent(QPaintEvent*) {
         p.setPen(QPen(kFrame, 1));
         p.drawRect(r);
         p.setPen(kDim);
-        p.drawText(r, Qt::AlignCenter | Qt::TextWordWrap,
-                   "No week played yet.\nEach Next Week adds its cash and popularity here.");
+        p.drawText(r, Qt::AlignCenter | Qt::TextWordWrap, kEmptyGraph);
         return;
     }
 
@@ -204,7 +140,7 @@ void WeekGraphView::paintEvent(QPaintEvent*) {
         p.drawLine(QPointF(r.left(), y), QPointF(r.right(), y));
         p.setPen(kCashColour);
         p.drawText(QRectF(0, y - 8, r.left() - 8, 16), Qt::AlignRight | Qt::AlignVCenter,
-                   money(cash_.low + cash_.step * k));
+                   qs(graph_money(cash_.low + cash_.step * k)));
         p.setPen(kFansColour);
         p.drawText(QRectF(r.right() + 8, y - 8, width() - r.right() - 8, 16),
                    Qt::AlignLeft | Qt::AlignVCenter,
@@ -219,12 +155,7 @@ void WeekGraphView::paintEvent(QPaintEvent*) {
     // The time axis: dates under ticks spaced so that the labels never crowd.
     const int n = static_cast<int>(points_.size());
     const double label_width = fm.horizontalAdvance("00/00/0000") + 18;
-    const int room = std::max(1, static_cast<int>(r.width() / label_width));
-    int step = kWeekSteps[0];
-    for (int s : kWeekSteps) {
-        step = s;
-        if ((n - 1) / s + 1 <= room) break;
-    }
+    const int step = date_step(n, static_cast<int>(r.width() / label_width));
     for (int i = 0; i < n; i += step) {
         const double x = x_of(i);
         p.setPen(QPen(kFrame, 1));
@@ -242,7 +173,7 @@ void WeekGraphView::paintEvent(QPaintEvent*) {
         const double x = x_of(i);
         p.setPen(QPen(kDim, 1, Qt::DashLine));
         p.drawLine(QPointF(x, r.top() - 4), QPointF(x, r.bottom()));
-        const QString text = "loaded " + day(points_[i].sample);
+        const QString text = qs(stretch_label(points_[i]));
         const double w = fm.horizontalAdvance(text);
         p.setPen(kInk);
         p.drawText(QPointF(std::clamp(x - w / 2, 2.0, width() - w - 2.0), r.top() - 9), text);
@@ -288,10 +219,8 @@ void WeekGraphView::paintEvent(QPaintEvent*) {
             p.setBrush(colour);
             p.drawEllipse(QPointF(x, y), 5, 5);
         }
-        const QString lines[] = {
-            (pt.start ? (current_ == 0 ? "Start " : "Loaded ") : "Week ending ") + day(pt.sample),
-            "Cash " + QString::fromStdString(format_cash(pt.sample.cash)),
-            QString("Popularity %1").arg(pt.sample.popularity)};
+        const auto label = point_label(points_, current_);
+        const QString lines[] = {qs(label[0]), qs(label[1]), qs(label[2])};
         double w = 0;
         for (const QString& l : lines) w = std::max(w, fm.horizontalAdvance(l));
         QRectF box(0, 0, w + 16, 3 * 15 + 10);
@@ -319,29 +248,12 @@ void WeekGraphView::mouseMoveEvent(QMouseEvent* event) {
 }
 
 void WeekGraphView::keyPressEvent(QKeyEvent* event) {
-    const int last = static_cast<int>(points_.size()) - 1;
-    switch (event->key()) {
-        case Qt::Key_Left:
-            set_current(current_ - 1);
-            break;
-        case Qt::Key_Right:
-            set_current(current_ + 1);
-            break;
-        case Qt::Key_PageUp:
-            set_current(current_ - 13);
-            break;
-        case Qt::Key_PageDown:
-            set_current(current_ + 13);
-            break;
-        case Qt::Key_Home:
-            set_current(0);
-            break;
-        case Qt::Key_End:
-            set_current(last);
-            break;
-        default:
-            QWidget::keyPressEvent(event);
+    const KeyBinding* b = find_key(place::kGraph, key_name(*event));
+    if (!b || b->action == KeyAction::Close || b->action == KeyAction::Quit) {
+        QWidget::keyPressEvent(event);
+        return;
     }
+    set_current(graph_move(b->action, current_, static_cast<int>(points_.size())));
 }
 
 WeekGraphWindow::WeekGraphWindow(const Game& g)
@@ -349,7 +261,7 @@ WeekGraphWindow::WeekGraphWindow(const Game& g)
     setObjectName("weekgraph");
     setWindowTitle("Week Graph");
     setAccessibleName("Week Graph");
-    dress_side_window(*this);
+    dress_side_window(*this, place::kGraph);
     resize(760, 500);
     setMinimumSize(440, 320);
 

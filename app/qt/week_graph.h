@@ -8,20 +8,11 @@
 #include <vector>
 
 #include "core/game.h"
+#include "view/week_graph.h"
 
 class QLabel;
 
 namespace tourvane {
-
-/// One point of the graph: the end of a week, or where a stretch of play began.
-struct GraphPoint {
-    WeekSample sample;
-    bool start = false;
-};
-
-/// The points in the order they were played: each stretch from its start through its weeks.
-/// A stretch in which no week was played is left out, unless it is the latest.
-std::vector<GraphPoint> graph_points(const Game& g);
 
 /// The graph itself: a plot that takes the pointer and the arrow keys.
 class WeekGraphView : public QWidget {
@@ -55,9 +46,7 @@ class WeekGraphView : public QWidget {
     void keyPressEvent(QKeyEvent* event) override;
 
   private:
-    struct Scale {
-        double low = 0, high = 1, step = 1;
-    };
+    using Scale = GraphScale;
     QRectF plot() const;
     double x_of(int index) const;
     double y_of(double value, const Scale& s) const;

@@ -1,8 +1,9 @@
 #include "app/qt/window_style.h"
 
 #include <QPalette>
-#include <QShortcut>
 #include <QWidget>
+
+#include "app/qt/shortcuts.h"
 
 namespace tourvane {
 
@@ -17,7 +18,7 @@ QScrollBar::add-line, QScrollBar::sub-line { width: 0px; height: 0px; }
 QScrollBar::add-page, QScrollBar::sub-page { background: transparent; }
 )";
 
-void dress_side_window(QWidget& window) {
+void dress_side_window(QWidget& window, std::string_view where) {
     QPalette p = window.palette();
     const QColor ink("#ece6da"), paper("#1b1720"), field("#0d0b10"), gold("#c9973f");
     p.setColor(QPalette::Window, paper);
@@ -72,8 +73,7 @@ QHeaderView::section {
     border-right: 1px solid #1b1720; padding: 3px 6px;
 }
 )") + kScrollBarStyle);
-    auto* escape = new QShortcut(QKeySequence(Qt::Key_Escape), &window);
-    QObject::connect(escape, &QShortcut::activated, &window, &QWidget::close);
+    bind_keys(window, where, {KeyAction::Close}, [&window](const KeyBinding&) { window.close(); });
 }
 
 }  // namespace tourvane

@@ -83,7 +83,7 @@ void press(Game& g) {
 
 void invitation(Game& g) {
     Module1& r = g.rec;
-    if (r.popularity <= 200) return;
+    if (r.popularity <= kInvitationPopularity) return;
     switch (Int(g.rnd() * 10) + 1) {
         case 1:
             r.interviewkind = 1;

@@ -5,6 +5,9 @@
 
 namespace tourvane {
 
+/// Invitations to an interview come only to a full band more popular than this.
+inline constexpr int kInvitationPopularity = 200;
+
 /// The random events of one week, with their memos; leaves popularity at 0 or above.
 void events(Game& g);
 

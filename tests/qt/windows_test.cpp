@@ -11,9 +11,9 @@
 #include "app/qt/qt_port.h"
 #include "core/ui.h"
 #include "flow/office.h"
-#include "flow/reasons.h"
 #include "rules/band/roster.h"
 #include "rules/music/songs.h"
+#include "view/reasons.h"
 
 namespace {
 

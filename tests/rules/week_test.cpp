@@ -1,9 +1,6 @@
 // The week: the office's labels and Next Week (the turn's order, early ends, promotion prices
-// and wages), the week's random events (misbehaviour, illness, press items and invitations),
-// and why a control is grey, worked out from the game.
-#include <functional>
+// and wages), and the week's random events (misbehaviour, illness, press items and invitations).
 
-#include "flow/reasons.h"
 #include "rules/week/events.h"
 #include "rules/week/turn.h"
 #include "test_game.h"
@@ -176,50 +173,6 @@ TEST_F(Events, OneIllnessAWeekReplacingWhatWasLeftAndInvitationsNeedMoreThanTwoH
               memo("Dave", "Great news, Boss. The Band has been invited for a Radio interview!"));
     EXPECT_EQ(str(r.popularity, r.interviewkind), "201 1");
     EXPECT_EQ(click(g, "main", "interview"), ClickResult::NotUsableNow);  // a memo is open
-}
-
-using Reasons = NewGame;
-
-TEST_F(Reasons, EachDisabledControlSaysWhyFromTheGame) {
-    // One game, prepared step by step; each row's step runs before its control is asked.
-    const std::string none = "No applicants are left this week. More come after Next Week.";
-    const std::string apply = "APPLY to the venue first: the tracks open once it takes the band.";
-    const std::string unknown =
-        "No invitation this week: the band must be better known to be invited.";
-    const std::string full = "The band is full: there is no place for an applicant.";
-    auto gig = [&] {
-        ok_memos(), songs({10, 20, 30}), r.venueopen = {0, -1, 0, -1, -1, -1};
-        click(g, "main", "command4");
-    };
-    const std::string chart = "The chart comes out once a week has been played with Next Week.";
-    const struct {
-        std::function<void()> step;
-        const char *form, *control;
-        std::string reason;
-        int index = -1;
-    } rows[] = {
-        {{}, "main", "secret", chart},
-        {[&] { r.popularity = 200; }, "main", "interview", unknown},
-        {{}, "main", "Command2", "Pick a member in the band list first."},
-        {[&] { r.popularity = 201; }, "main", "interview", "No invitation this week."},
-        {[&] { r.interviewkind = 2; }, "main", "interview",
-         "The band has given this week's interview."},
-        {[&] { g.main.applicantsseen = 3, click(g, "main", "dismiss"); }, "main", "hire", none},
-        {{}, "main", "dismiss", none},
-        {[&] { full_band(), update(g); }, "main", "hire", full},
-        {gig, "gig", "location", "The Queens Head is closed this week.", 1},
-        {{}, "gig", "location", "", 0},
-        {{}, "gig", "command1", "Choose a venue first."},
-        {{}, "gig", "Combo1", "Choose a venue and APPLY first."},
-        {[&] { click(g, "gig", "location", 0); }, "gig", "command4", apply},
-        {{}, "gig", "command3", apply},
-    };
-    for (const auto& row : rows) {
-        if (row.step) row.step();
-        const Control* c = find_control(g, row.form, row.control, row.index);
-        ASSERT_TRUE(c) << row.control;
-        EXPECT_EQ(disabled_reason(g, *find_form(g, row.form), *c), row.reason) << row.control;
-    }
 }
 
 }  // namespace

@@ -1,0 +1,29 @@
+#pragma once
+// The key help (F1): every key of the key table, a section for each place it works in, and
+// what Tourvane is: its version and licence.
+
+#include <string>
+#include <vector>
+
+#include "core/game.h"
+
+namespace tourvane {
+
+struct HelpRow {
+    std::string keys;  ///< as shown: "Page Up", "Alt+S, Ctrl+F"
+    std::string what;
+};
+
+struct HelpSection {
+    std::string title;
+    std::vector<HelpRow> rows;
+};
+
+/// The key table as the key help lists it, in sections by place: the office, the title
+/// screen, the other screens, the diary, the week graph, this list, every window.
+std::vector<HelpSection> key_help(Game& g);
+
+/// What Tourvane is: its name and version, what it does, its licence.
+std::string about_text();
+
+}  // namespace tourvane
