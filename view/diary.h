@@ -8,6 +8,7 @@
 #include <vector>
 
 #include "core/game.h"
+#include "view/screens.h"
 
 namespace tourvane {
 
@@ -44,8 +45,24 @@ class DiarySenders {
     unsigned loads_ = 0;    ///< the game's history loads when last taken in
 };
 
-/// The first choice of the sender filter.
+/// The diary window's words.
+inline constexpr WindowWords kDiaryWords{
+    "Diary", "Every memo and message of this run, newest first.", "Close the diary"};
+inline constexpr std::string_view kDiaryColumns[] = {"Date", "From", "Message"};
+inline constexpr std::string_view kDiaryEntries = "Diary entries";
+inline constexpr std::string_view kDiaryCount = "Messages shown";
+
+/// The sender filter: its label, name, what it does and its first choice.
+inline constexpr std::string_view kSenderLabel = "From:";
+inline constexpr std::string_view kSenderName = "From";
+inline constexpr std::string_view kSenderHelp = "Show the messages of one sender, or of everyone";
 inline constexpr std::string_view kEveryone = "Everyone";
+
+/// The search field: its label, name, what it does and the hint it shows while empty.
+inline constexpr std::string_view kSearchLabel = "Search:";
+inline constexpr std::string_view kSearchName = "Search";
+inline constexpr std::string_view kSearchHelp = "Show only the messages that hold these words";
+inline constexpr std::string_view kSearchHint = "Words in a message, a sender or a date";
 
 /// The line under the diary: how many entries it shows of how many.
 std::string diary_count_line(std::size_t shown, std::size_t all);

@@ -6,6 +6,7 @@
 #include <vector>
 
 #include "core/game.h"
+#include "view/screens.h"
 
 namespace tourvane {
 
@@ -22,6 +23,13 @@ struct HelpSection {
 /// The key table as the key help lists it, in sections by place: the office, the title
 /// screen, the other screens, the diary, the week graph, this list, every window.
 std::vector<HelpSection> key_help(Game& g);
+
+/// The key help window's words: its list, the list's columns and the About part.
+inline constexpr WindowWords kHelpWords{"Keys", "", "Close the key list"};
+inline constexpr std::string_view kHelpList = "Keys and what they do";
+inline constexpr std::string_view kHelpColumns[] = {"Key", "What it does"};
+inline constexpr std::string_view kAboutHeading = "About";
+inline constexpr std::string_view kAboutName = "About Tourvane";
 
 /// What Tourvane is: its name and version, what it does, its licence.
 std::string about_text();

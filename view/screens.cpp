@@ -15,6 +15,11 @@ ScreenFace screen_face(std::string_view form) {
     return {};
 }
 
+Announcement memo_announcement(const Game& g) {
+    const MemoForm& m = g.forms.messageForm;
+    return {"Message from " + m.txtFrom.caption, m.thetxt.caption};
+}
+
 ControlRef quit_control(const Game& g) {
     const TitleForm& title = g.forms.Form1;
     if (title.loaded && title.visible) return {"Form1", "Label4"};

@@ -3,6 +3,7 @@
 // and the first focus go to, where the quit key leads, and which screens stand open and which
 // comes to the front after each click.
 
+#include <string>
 #include <string_view>
 #include <vector>
 
@@ -18,6 +19,23 @@ struct ScreenFace {
 
 /// How the screen of that form name presents itself; an empty face for an unknown name.
 ScreenFace screen_face(std::string_view form);
+
+/// The title every box of the game carries but the two prompts of NEW GAME.
+inline constexpr std::string_view kBoxTitle = "Tourvane";
+
+/// The words of a window beside the office: the diary, the week graph, the key help.
+struct WindowWords {
+    std::string_view title;  ///< its title, heading and accessible name
+    std::string_view about;  ///< the line under the heading
+    std::string_view close;  ///< what its Close button is called to a screen reader
+};
+
+/// What a screen reader hears when a memo comes up: "Message from Dave", then its text.
+struct Announcement {
+    std::string name;
+    std::string text;
+};
+Announcement memo_announcement(const Game& g);
 
 /// A control of a screen, by the names a click uses.
 struct ControlRef {

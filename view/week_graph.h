@@ -10,6 +10,7 @@
 
 #include "core/game.h"
 #include "view/keys.h"
+#include "view/screens.h"
 
 namespace tourvane {
 
@@ -55,6 +56,17 @@ std::array<std::string, 3> point_label(const std::vector<GraphPoint>& points, in
 
 /// The words over a point where a load began a stretch: "loaded 08/09/2001".
 std::string stretch_label(const GraphPoint& p);
+
+/// The week graph window's words, the graph's name, its key and its hint.
+inline constexpr WindowWords kGraphWords{
+    "Week Graph", "Cash and popularity at the end of every week played in this run.",
+    "Close the week graph"};
+inline constexpr std::string_view kGraphName = "Week graph";
+inline constexpr std::string_view kPickedWeek = "Picked week";
+inline constexpr std::string_view kCashLine = "Cash (left scale)";
+inline constexpr std::string_view kFansLine = "Popularity (right scale)";
+inline constexpr std::string_view kGraphHint =
+    "Point at the graph, or use Left, Right, Home and End.";
 
 /// What the graph shows before any week has been played.
 inline constexpr const char* kEmptyGraph =

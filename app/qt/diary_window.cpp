@@ -13,6 +13,7 @@
 #include <QVBoxLayout>
 
 #include "app/qt/shortcuts.h"
+#include "app/qt/text.h"
 #include "app/qt/window_style.h"
 #include "core/diary.h"
 #include "core/ui.h"
@@ -20,10 +21,6 @@
 namespace tourvane {
 
 namespace {
-
-QString qs(const std::string& text) {
-    return QString::fromStdString(text);
-}
 
 enum Column { kDate, kFrom, kText, kColumns };
 
@@ -96,8 +93,7 @@ class DiaryModel : public QAbstractTableModel {
 
     QVariant headerData(int section, Qt::Orientation orientation, int role) const override {
         if (orientation != Qt::Horizontal || role != Qt::DisplayRole) return {};
-        static const char* const titles[] = {"Date", "From", "Message"};
-        return QString(titles[section]);
+        return QString::fromLatin1(kDiaryColumns[section]);
     }
 
   private:
@@ -139,32 +135,32 @@ DiaryWindow::DiaryWindow(const Game& g)
       entries_(new QTreeView(this)),
       count_(new QLabel(this)) {
     setObjectName("diary");
-    setWindowTitle("Diary");
-    setAccessibleName("Diary");
+    setWindowTitle(qs(kDiaryWords.title));
+    setAccessibleName(qs(kDiaryWords.title));
     dress_side_window(*this, place::kDiary);
     resize(660, 460);
     setMinimumSize(420, 260);
 
-    auto* heading = new QLabel("Diary", this);
+    auto* heading = new QLabel(qs(kDiaryWords.title), this);
     heading->setProperty("role", "heading");
-    auto* about = new QLabel("Every memo and message of this run, newest first.", this);
+    auto* about = new QLabel(qs(kDiaryWords.about), this);
 
-    auto* from_label = new QLabel("From:", this);
+    auto* from_label = new QLabel(qs(kSenderLabel), this);
     from_label->setBuddy(senders_);
-    senders_->setAccessibleName("From");
-    senders_->setAccessibleDescription("Show the messages of one sender, or of everyone");
-    senders_->addItem(QString::fromLatin1(kEveryone), QString());
+    senders_->setAccessibleName(qs(kSenderName));
+    senders_->setAccessibleDescription(qs(kSenderHelp));
+    senders_->addItem(qs(kEveryone), QString());
     senders_->setMinimumContentsLength(12);
-    auto* search_label = new QLabel("Search:", this);
+    auto* search_label = new QLabel(qs(kSearchLabel), this);
     search_label->setBuddy(search_);
-    search_->setAccessibleName("Search");
-    search_->setAccessibleDescription("Show only the messages that hold these words");
-    search_->setPlaceholderText("Words in a message, a sender or a date");
+    search_->setAccessibleName(qs(kSearchName));
+    search_->setAccessibleDescription(qs(kSearchHelp));
+    search_->setPlaceholderText(qs(kSearchHint));
     search_->setClearButtonEnabled(true);
 
     filter_->setSourceModel(model_);
     entries_->setModel(filter_);
-    entries_->setAccessibleName("Diary entries");
+    entries_->setAccessibleName(qs(kDiaryEntries));
     entries_->setRootIsDecorated(false);
     entries_->setItemsExpandable(false);
     entries_->setAlternatingRowColors(true);
@@ -185,9 +181,9 @@ DiaryWindow::DiaryWindow(const Game& g)
             [this] { entries_->doItemsLayout(); });
 
     count_->setProperty("role", "readout");
-    count_->setAccessibleName("Messages shown");
+    count_->setAccessibleName(qs(kDiaryCount));
     auto* close = new QPushButton("Close", this);
-    close->setAccessibleName("Close the diary");
+    close->setAccessibleName(qs(kDiaryWords.close));
     close->setAutoDefault(false);
     connect(close, &QPushButton::clicked, this, &QWidget::close);
 

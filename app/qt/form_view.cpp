@@ -10,15 +10,12 @@
 
 #include "app/qt/control_widgets.h"
 #include "app/qt/shortcuts.h"
+#include "app/qt/text.h"
 #include "view/controls.h"
 
 namespace tourvane {
 
 namespace {
-
-QString qs(const std::string& text) {
-    return QString::fromStdString(text);
-}
 
 const char* kind_name(ControlKind kind) {
     switch (kind) {

@@ -181,8 +181,9 @@ void GameWindows::announce_memo(FormView& memo) {
     shown += std::to_string(g_.memos.size());
     if (shown == announced_memo_) return;  // still the memo announced before
     announced_memo_ = std::move(shown);
-    announce(memo, "Message from " + QString::fromStdString(m.txtFrom.caption),
-             QString::fromStdString(m.thetxt.caption), QAccessible::Alert);
+    const Announcement said = memo_announcement(g_);
+    announce(memo, QString::fromStdString(said.name), QString::fromStdString(said.text),
+             QAccessible::Alert);
 }
 
 void GameWindows::show_view(FormView* view) {

@@ -7,6 +7,7 @@
 #include <QTreeWidget>
 #include <QVBoxLayout>
 
+#include "app/qt/text.h"
 #include "app/qt/window_style.h"
 #include "view/help.h"
 #include "view/keys.h"
@@ -15,17 +16,17 @@ namespace tourvane {
 
 KeyHelpWindow::KeyHelpWindow(Game& g) : keys_(new QTreeWidget(this)), about_(new QLabel(this)) {
     setObjectName("keyhelp");
-    setWindowTitle("Keys");
-    setAccessibleName("Keys");
+    setWindowTitle(qs(kHelpWords.title));
+    setAccessibleName(qs(kHelpWords.title));
     dress_side_window(*this, place::kHelp);
     resize(500, 590);
     setMinimumSize(320, 300);
 
-    auto* heading = new QLabel("Keys", this);
+    auto* heading = new QLabel(qs(kHelpWords.title), this);
     heading->setProperty("role", "heading");
-    keys_->setAccessibleName("Keys and what they do");
+    keys_->setAccessibleName(qs(kHelpList));
     keys_->setColumnCount(2);
-    keys_->setHeaderLabels({"Key", "What it does"});
+    keys_->setHeaderLabels({qs(kHelpColumns[0]), qs(kHelpColumns[1])});
     keys_->setRootIsDecorated(false);
     keys_->setIndentation(14);
     keys_->setItemsExpandable(false);
@@ -55,12 +56,12 @@ KeyHelpWindow::KeyHelpWindow(Game& g) : keys_(new QTreeWidget(this)), about_(new
     about_->setTextFormat(Qt::PlainText);
     about_->setWordWrap(true);
     about_->setText(QString::fromStdString(about_text()));
-    about_->setAccessibleName("About Tourvane");
-    auto* about_heading = new QLabel("About", this);
+    about_->setAccessibleName(qs(kAboutName));
+    auto* about_heading = new QLabel(qs(kAboutHeading), this);
     about_heading->setProperty("role", "heading");
 
     auto* close = new QPushButton("Close", this);
-    close->setAccessibleName("Close the key list");
+    close->setAccessibleName(qs(kHelpWords.close));
     close->setAutoDefault(false);
     connect(close, &QPushButton::clicked, this, &QWidget::close);
     auto* bottom = new QHBoxLayout;

@@ -7,13 +7,12 @@
 #include <QPalette>
 #include <QPushButton>
 
+#include "app/qt/text.h"
+#include "view/screens.h"
+
 namespace tourvane {
 
 namespace {
-
-QString qs(std::string_view text) {
-    return QString::fromUtf8(text.data(), static_cast<qsizetype>(text.size()));
-}
 
 /// The boxes' own look, a sheet of memo paper with red ink buttons: set on the box itself so
 /// that no screen underneath lends it its colours.
@@ -93,7 +92,7 @@ void QtPort::present(QDialog& box, const QString& text) {
 
 Answer QtPort::msgbox(std::string_view text, Buttons buttons, bool critical) {
     QMessageBox box(QApplication::activeWindow());
-    box.setWindowTitle("Tourvane");
+    box.setWindowTitle(qs(kBoxTitle));
     dress_box(box);
     box.setText(qs(text));
     box.setTextFormat(Qt::PlainText);

@@ -12,6 +12,7 @@
 #include <cmath>
 
 #include "app/qt/shortcuts.h"
+#include "app/qt/text.h"
 #include "app/qt/window_style.h"
 #include "core/ui.h"
 
@@ -26,10 +27,6 @@ const QColor kCashColour("#7fd67a"), kFansColour("#f0b650");
 /// Up to this many points, each is marked with a dot.
 constexpr std::size_t kDottedPoints = 60;
 
-QString qs(const std::string& text) {
-    return QString::fromStdString(text);
-}
-
 QString day(const WeekSample& s) {
     return QString::fromStdString(format_date(s.date));
 }
@@ -39,7 +36,7 @@ QString day(const WeekSample& s) {
 WeekGraphView::WeekGraphView(QWidget* parent) : QWidget(parent) {
     setFocusPolicy(Qt::StrongFocus);
     setMouseTracking(true);
-    setAccessibleName("Week graph");
+    setAccessibleName(qs(kGraphName));
     setCursor(Qt::CrossCursor);
 }
 
@@ -123,7 +120,7 @@ void WeekGraphView::paintEvent(QPaintEvent*) {
         p.drawText(QPointF(x + 28, y + 4), text);
         return x + 28 + fm.horizontalAdvance(text) + 24;
     };
-    key(key(r.left(), kCashColour, "Cash (left scale)"), kFansColour, "Popularity (right scale)");
+    key(key(r.left(), kCashColour, qs(kCashLine)), kFansColour, qs(kFansLine));
 
     if (points_.empty()) {
         p.setPen(QPen(kFrame, 1));
@@ -259,22 +256,21 @@ void WeekGraphView::keyPressEvent(QKeyEvent* event) {
 WeekGraphWindow::WeekGraphWindow(const Game& g)
     : g_(g), view_(new WeekGraphView(this)), readout_(new QLabel(this)) {
     setObjectName("weekgraph");
-    setWindowTitle("Week Graph");
-    setAccessibleName("Week Graph");
+    setWindowTitle(qs(kGraphWords.title));
+    setAccessibleName(qs(kGraphWords.title));
     dress_side_window(*this, place::kGraph);
     resize(760, 500);
     setMinimumSize(440, 320);
 
-    auto* heading = new QLabel("Week Graph", this);
+    auto* heading = new QLabel(qs(kGraphWords.title), this);
     heading->setProperty("role", "heading");
-    auto* about =
-        new QLabel("Cash and popularity at the end of every week played in this run.", this);
+    auto* about = new QLabel(qs(kGraphWords.about), this);
     readout_->setProperty("role", "readout");
-    readout_->setAccessibleName("Picked week");
-    auto* hint = new QLabel("Point at the graph, or use Left, Right, Home and End.", this);
+    readout_->setAccessibleName(qs(kPickedWeek));
+    auto* hint = new QLabel(qs(kGraphHint), this);
     hint->setProperty("role", "hint");
     auto* close = new QPushButton("Close", this);
-    close->setAccessibleName("Close the week graph");
+    close->setAccessibleName(qs(kGraphWords.close));
     close->setAutoDefault(false);
     connect(close, &QPushButton::clicked, this, &QWidget::close);
 
