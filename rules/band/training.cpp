@@ -7,10 +7,7 @@ namespace tourvane {
 
 namespace {
 constexpr int kTalentStep = 4;  // practice points that make one step of talent
-constexpr int kLessonPrice = 75;
-constexpr int kHolidayPrice = 300;
 constexpr int kHolidayDays = 14;
-constexpr int kHolidayCheer = 4;
 }  // namespace
 
 void practise(Game& g) {
@@ -70,7 +67,7 @@ void holiday(Game& g) {
     if (MsgBox(g, "Go ahead and book a 2 week holiday?", Buttons::YesNo) != Answer::Yes) return;
     for (int slot = 1; slot <= kMemberSlots; ++slot) {
         add(r.memberhappy[slot], kHolidayCheer);
-        if (r.memberhappy[slot] > 10) r.memberhappy[slot] = 10;
+        if (r.memberhappy[slot] > kHappiest) r.memberhappy[slot] = kHappiest;
     }
     r.gamedate += kHolidayDays;
     add(r.cash, -kHolidayPrice);

@@ -5,6 +5,12 @@
 
 namespace tourvane {
 
+inline constexpr int kLessonPrice = 75;
+inline constexpr int kHolidayPrice = 300;
+/// A holiday's happiness for every member, up to the most a member can have.
+inline constexpr int kHolidayCheer = 4;
+inline constexpr int kHappiest = 10;
+
 /// One band practice: a random member gains practice points; the band gets more tired.
 void practise(Game& g);
 

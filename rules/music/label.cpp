@@ -5,9 +5,24 @@
 namespace tourvane {
 
 namespace {
-constexpr int kKeepContract = 900;
-constexpr int kSignContract = 1000;
+
+/// The label's answers, from the worst song to the contract.
+constexpr std::string_view kVerdicts[] = {
+    "The record label rejected our demo tape.",
+    "The record label thought the song was ok but not what they are looking for.",
+    "The record label liked your song but felt it didn't meet their needs.",
+    "The record label liked the song a lot, they would like to hear some more of your tracks.",
+    "The record label loved the track, but think the band as a whole still needs to develop.",
+    "Superstar Records loved the demo tape and have signed the band!",
+};
+
 }  // namespace
+
+bool is_demo_verdict(std::string_view text) {
+    for (std::string_view verdict : kVerdicts)
+        if (text == verdict) return true;
+    return false;
+}
 
 void command3(Game& g) {
     if (is_true(g.main.demosent)) {
@@ -24,7 +39,7 @@ void command3(Game& g) {
 
 void contract_review(Game& g) {
     Module1& r = g.rec;
-    if (is_true(r.signed_) && r.popularity < kKeepContract) {
+    if (is_true(r.signed_) && r.popularity < kKeepPopularity) {
         message(g,
                 "Bad news, Boss. Due to the bands low popularity, Superstar records have "
                 "terminated our contract!",
@@ -39,27 +54,20 @@ bool demo_verdict(Game& g) {
     const int song = g.main.selectedsong;
     const int q = in_bounds(r.songquality, song) ? r.songquality[song] : 0;
     g.main.demosent = kFalse;
-    if (q < 20) {
-        message(g, "The record label rejected our demo tape.", "Mona");
+    if (q < kRejectQuality) {
+        message(g, kVerdicts[0], "Mona");
         return false;
     }
-    if (q > 20 && q < 25) {
-        message(g, "The record label thought the song was ok but not what they are looking for.",
-                "Mona");
+    if (q > kRejectQuality && q < 25) {
+        message(g, kVerdicts[1], "Mona");
     } else if (q > 25 && q < 30) {
-        message(g, "The record label liked your song but felt it didn't meet their needs.", "Mona");
-    } else if (q > 30 && q < 40) {
-        message(g,
-                "The record label liked the song a lot, they would like to hear some more of "
-                "your tracks.",
-                "Mona");
-    } else if (q > 40 && r.popularity < kSignContract) {
-        message(g,
-                "The record label loved the track, but think the band as a whole still needs to "
-                "develop.",
-                "Mona");
-    } else if (q > 40) {
-        message(g, "Superstar Records loved the demo tape and have signed the band!", "Dave");
+        message(g, kVerdicts[2], "Mona");
+    } else if (q > 30 && q < kSignQuality) {
+        message(g, kVerdicts[3], "Mona");
+    } else if (q > kSignQuality && r.popularity < kSignPopularity) {
+        message(g, kVerdicts[4], "Mona");
+    } else if (q > kSignQuality) {
+        message(g, kVerdicts[5], "Dave");
         r.signed_ = kTrue;
     }
     return true;

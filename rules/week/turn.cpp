@@ -34,20 +34,20 @@ bool charge_promotion(Game& g) {
         case 2:
             if (r.cash < 0) return false;
             if (is_true(r.signed_)) promote_singles(g, 3);
-            add(r.cash, -100);
+            add(r.cash, -kPromotionPrice[2]);
             add(r.popularity, 3);
             break;
         case 3:
-            if (r.cash < 250) {
+            if (r.cash < kPromotionPrice[3]) {
                 message(g, "We can't afford any promotion this week.", "Dave");
                 return false;
             }
             if (is_true(r.signed_)) promote_singles(g, 5);
-            add(r.cash, -250);
+            add(r.cash, -kPromotionPrice[3]);
             add(r.popularity, 4);
             break;
         case 4:
-            if (r.cash < 400) {
+            if (r.cash < kPromotionPrice[4]) {
                 message(g,
                         "Sorry, Boss. Cash is a bit tight this week so we can't afford any "
                         "promotion.",
@@ -55,7 +55,7 @@ bool charge_promotion(Game& g) {
                 break;
             }
             if (is_true(r.signed_)) promote_singles(g, 7);
-            add(r.cash, -400);
+            add(r.cash, -kPromotionPrice[4]);
             add(r.popularity, 5);
             break;
         default:
@@ -88,7 +88,7 @@ bool pay_wages(Game& g) {
     Module1& r = g.rec;
     std::int64_t wages = 0;
     for (int slot = 1; slot <= kMemberSlots; ++slot)
-        if (!is_vacant(r, slot)) wages += Int(g.rnd() * 3) + 1;
+        if (!is_vacant(r, slot)) wages += Int(g.rnd() * kTopWage) + 1;
     if (wages > r.cash) {
         final_message(g, "Bad new, Boss. We're out of cash, and that means we're out of a job!",
                       "Dave");

@@ -5,6 +5,13 @@
 
 namespace tourvane {
 
+/// What a week of promotion costs at each level: 1 None, 2 Small, 3 Medium, 4 High (0, no
+/// level chosen yet, acts as None).
+inline constexpr int kPromotionPrice[5] = {0, 0, 100, 250, 400};
+
+/// Each member's wage is drawn afresh every week: 1 to this many pounds.
+inline constexpr int kTopWage = 3;
+
 /// The Next Week click: contract review, practice, promotion, illness, morale, the song clock,
 /// the date, wages (or the end of the game), venues, the label's answer, singles, events,
 /// popularity decay and the chart, in that order, with its three early ends. A week that moved
