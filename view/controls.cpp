@@ -96,19 +96,27 @@ std::string grey_reason(const Game& g, const FormState& form, const Control& c) 
     return c.kind == ControlKind::Label ? std::string() : disabled_reason(g, form, c);
 }
 
-std::string hover_text(const Control& c, bool cut, const std::string& reason) {
-    if (reason.empty()) return cut ? c.caption : c.tooltip;
-    return cut ? c.caption + "\n" + reason : reason;
+std::string hover_text(const Control& c, bool cut, const std::string& note,
+                       const std::string& reason) {
+    std::string text = cut ? c.caption : reason.empty() ? c.tooltip : std::string();
+    for (const std::string* line : {&note, &reason}) {
+        if (line->empty()) continue;
+        if (!text.empty()) text += '\n';
+        text += *line;
+    }
+    return text;
 }
 
 std::string accessible_description(const FormState& form, const Control& c, bool cut,
-                                   const std::string& reason) {
+                                   const std::string& note, const std::string& reason) {
     if (c.kind == ControlKind::Label) {
-        if (shows_value(form, c)) return c.caption;
-        return cut ? c.caption : std::string();
+        const std::string shown = shows_value(form, c) || cut ? c.caption : std::string();
+        if (note.empty()) return shown;
+        return shown.empty() ? note : shown + ". " + note;
     }
-    if (c.kind == ControlKind::HotSpot && reason.empty()) return {};
-    return hover_text(c, cut, reason);
+    if (c.kind == ControlKind::HotSpot && reason.empty() && note.empty()) return {};
+    if (c.kind == ControlKind::HotSpot && reason.empty()) return note;
+    return hover_text(c, cut, note, reason);
 }
 
 }  // namespace tourvane

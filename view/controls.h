@@ -24,13 +24,15 @@ bool shows_value(const FormState& form, const Control& c);
 /// has no reason to tell.
 std::string grey_reason(const Game& g, const FormState& form, const Control& c);
 
-/// What a hover over the control tells: the whole caption if it is shown cut, then why it is
-/// grey (`reason`, from grey_reason) if it is; else its tool tip. Empty for nothing to tell.
-std::string hover_text(const Control& c, bool cut, const std::string& reason);
+/// What a hover over the control tells, a line each: the whole caption if it is shown cut,
+/// else its tool tip while it is not grey; then `note` (control_note of view/notes.h), then why
+/// it is grey (`reason`, from grey_reason). Empty for nothing to tell.
+std::string hover_text(const Control& c, bool cut, const std::string& note,
+                       const std::string& reason);
 
-/// What a screen reader says after the name: a value label's value, else what a hover tells
-/// (a hot-spot's tool tip is its name already).
+/// What a screen reader says after the name: a value label's value and its note, else what a
+/// hover tells (a hot-spot's tool tip is its name already).
 std::string accessible_description(const FormState& form, const Control& c, bool cut,
-                                   const std::string& reason);
+                                   const std::string& note, const std::string& reason);
 
 }  // namespace tourvane

@@ -17,6 +17,7 @@
 #include "app/qt/window_style.h"
 #include "core/diary.h"
 #include "core/ui.h"
+#include "view/notes.h"
 
 namespace tourvane {
 
@@ -82,8 +83,10 @@ class DiaryModel : public QAbstractTableModel {
                     return qs(format_date(e.date));
                 case kFrom:
                     return qs(e.from);
-                default:
-                    return qs(e.text);
+                default: {
+                    const std::string note = diary_note(e);
+                    return qs(note.empty() ? e.text : e.text + "\n" + note);
+                }
             }
         }
         if (role == Qt::ForegroundRole && index.column() == kFrom)

@@ -12,6 +12,7 @@
 #include "app/qt/shortcuts.h"
 #include "app/qt/text.h"
 #include "view/controls.h"
+#include "view/notes.h"
 
 namespace tourvane {
 
@@ -192,15 +193,17 @@ bool FormView::refresh(Binding& b) {
         combo->setCurrentIndex(c.selected < combo->count() ? c.selected : -1);
     }
     const std::string reason = grey_reason(g_, form_, c);
+    const std::string note = control_note(g_, form_, c);
     const bool coloured = c.rule_colour || (skin_.model_colours && c.kind == ControlKind::Label);
     if (b.copied && b.rows == c.rows && b.caption == c.caption && b.tooltip == c.tooltip &&
-        b.reason == reason && b.enabled == c.enabled && b.visible == c.visible &&
+        b.reason == reason && b.note == note && b.enabled == c.enabled && b.visible == c.visible &&
         (!coloured || (b.coloured && b.colour == c.color)))
         return false;
     b.copied = true;
     b.caption = c.caption;
     b.tooltip = c.tooltip;
     b.reason = reason;
+    b.note = note;
     b.enabled = c.enabled;
     b.visible = c.visible;
 
@@ -262,7 +265,7 @@ bool FormView::refresh(Binding& b) {
                 list->ensurePolished();  // rows are cut to the font of the screen's style
                 list->clear();
                 const int room = list->row_room(static_cast<int>(c.rows.size()));
-                for (const std::string& row : c.rows) {
+                for (const std::string& row : shown_rows(g_, form_, c)) {
                     const QString whole = qs(row);
                     auto* item = new QListWidgetItem(fit_line(whole, list->fontMetrics(), room));
                     item->setSizeHint(QSize(room, list->row_height()));
@@ -287,7 +290,7 @@ bool FormView::refresh(Binding& b) {
                 combo->ensurePolished();
                 combo->clear();
                 const int room = combo->width() - kComboArrow;
-                for (const std::string& row : c.rows) {
+                for (const std::string& row : shown_rows(g_, form_, c)) {
                     const QString whole = qs(row);
                     const QString shown = fit_line(whole, combo->fontMetrics(), room);
                     combo->addItem(shown);
@@ -307,8 +310,8 @@ bool FormView::refresh(Binding& b) {
 
     // A hover tells the whole caption where it is cut short, and a grey control says why;
     // enabled again, it has its usual tip back.
-    w->setToolTip(qs(hover_text(c, cut, reason)));
-    w->setAccessibleDescription(qs(accessible_description(form_, c, cut, reason)));
+    w->setToolTip(qs(hover_text(c, cut, note, reason)));
+    w->setAccessibleDescription(qs(accessible_description(form_, c, cut, note, reason)));
 
     if (coloured && (!b.coloured || b.colour != c.color)) {
         w->setStyleSheet(QStringLiteral("color: #%1;").arg(c.color, 6, 16, QLatin1Char('0')));

@@ -69,7 +69,7 @@ class FormView : public QWidget {
         bool coloured = false;
         /// What was last copied from the control, to skip a control that has not changed.
         bool copied = false;
-        std::string caption, tooltip, reason;
+        std::string caption, tooltip, reason, note;
         bool enabled = true, visible = true;
     };
 

@@ -114,7 +114,8 @@ TEST(Names, ControlsThatTakeTheKeysHaveNamesTheirNeighboursDoNotShare) {
     OfficeForm& office = t.g.forms.main;
     EXPECT_EQ(accessible_name(office, office.txtcash), "Cash");
     EXPECT_TRUE(shows_value(office, office.txtcash) && !shows_value(office, office.Label19));
-    EXPECT_EQ(accessible_description(office, office.txtcash, false, ""), "£ 3000");
+    EXPECT_EQ(accessible_description(office, office.txtcash, false, "", ""), "£ 3000");
+    EXPECT_EQ(accessible_description(office, office.txtcash, false, "More.", ""), "£ 3000. More.");
     EXPECT_EQ(accessible_name(office, office.promote[1]), "Small £100");
     EXPECT_EQ(accessible_name(t.g.forms.Chart, t.g.forms.Chart.track[10]), "Place 10");
     EXPECT_EQ(accessible_name(t.g.forms.Chart, t.g.forms.Chart.track[11]), "2");
@@ -126,14 +127,17 @@ TEST(Names, AHoverTellsTheWholeCaptionWhereItIsCutAndWhyAControlIsGrey) {
     OfficeForm& office = t.g.forms.main;
     const std::string why = grey_reason(t.g, office, office.secret);
     ASSERT_FALSE(why.empty());
-    EXPECT_EQ(hover_text(office.secret, false, why), why);
-    EXPECT_EQ(accessible_description(office, office.secret, false, why), why);
-    // An enabled hot-spot: its tip is its name, so the description adds nothing.
-    EXPECT_EQ(hover_text(office.command6, false, ""), "Next Week");
-    EXPECT_EQ(accessible_description(office, office.command6, false, ""), "");
+    EXPECT_EQ(hover_text(office.secret, false, "", why), why);
+    EXPECT_EQ(accessible_description(office, office.secret, false, "", why), why);
+    // An enabled hot-spot: its tip is its name, so the description adds only a note.
+    EXPECT_EQ(hover_text(office.command6, false, "", ""), "Next Week");
+    EXPECT_EQ(accessible_description(office, office.command6, false, "", ""), "");
+    EXPECT_EQ(hover_text(office.holiday, false, "Costly.", ""), "Band Holiday\nCostly.");
+    EXPECT_EQ(accessible_description(office, office.holiday, false, "Costly.", ""), "Costly.");
     office.Command2.caption = "SACK THIS MEMBER AT ONCE";
     const std::string sack = grey_reason(t.g, office, office.Command2);
-    EXPECT_EQ(hover_text(office.Command2, true, sack), office.Command2.caption + "\n" + sack);
+    EXPECT_EQ(hover_text(office.Command2, true, "", sack), office.Command2.caption + "\n" + sack);
+    EXPECT_EQ(hover_text(office.Command2, false, "Note.", sack), "Note.\n" + sack);
     EXPECT_EQ(grey_reason(t.g, office, office.Label19), "");  // labels never explain
 }
 
