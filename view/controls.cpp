@@ -2,6 +2,7 @@
 
 #include <string_view>
 
+#include "rules/files/save_file.h"
 #include "view/reasons.h"
 
 namespace tourvane {
@@ -52,6 +53,14 @@ std::string own_name(std::string_view form, const Control& c) {
     };
     for (const Named& n : kNames)
         if (n.form == form && n.key == key) return std::string(n.name);
+    // The save slots all start as "GAME SLOT 1": each is named by its number and what it holds.
+    if (form == "savefrm" && c.name == "saveslot") {
+        const std::string slot = "Slot " + std::to_string(c.index + 1);
+        if (c.tooltip.empty()) return slot;
+        if (c.tooltip == kEmptySlot) return slot + ", empty";
+        if (c.tooltip == kDamagedSlot) return slot + ", damaged";
+        return slot + ", " + c.tooltip;
+    }
     // The chart's ten places; its other `track` elements are the places' numbers.
     if (form == "Chart" && c.name == "track" && c.index >= 1 && c.index <= 10)
         return "Place " + std::to_string(c.index);

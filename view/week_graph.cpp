@@ -16,6 +16,25 @@ constexpr int kWeekSteps[] = {1, 2, 4, 8, 13, 26, 52, 104, 156, 260, 520, 1040, 
 /// Weeks a quarter's jump moves the pick.
 constexpr int kQuarter = 13;
 
+constexpr double kWeek = 7, kHoliday = 14;
+
+/// Most holiday weeks told between two points: a longer gap is no run of holidays.
+constexpr int kMostHolidayWeeks = 104;
+
+/// Adds the weeks of the holidays taken between the last point and `day`, which a holiday's
+/// fortnight at a time brings nearer: one point for each week, at the date it ended.
+void holidays_until(std::vector<GraphPoint>& points, double day) {
+    const GraphPoint last = points.back();
+    const double gap = day - last.sample.date;
+    if (!(gap >= kHoliday) || std::fmod(gap, kHoliday) != 0 || gap / kWeek > kMostHolidayWeeks)
+        return;
+    for (double d = last.sample.date + kWeek; d <= day; d += kWeek) {
+        GraphPoint away{last.sample, false, true};
+        away.sample.date = d;
+        points.push_back(away);
+    }
+}
+
 std::string shortened(double value, int digits, const char* unit) {
     char text[32];
     std::snprintf(text, sizeof text, "£ %.*g%s", digits, value, unit);
@@ -36,8 +55,13 @@ std::vector<GraphPoint> graph_points(const Game& g) {
         while (end < weeks.size() && weeks[end].segment == k) ++end;
         if (end == next && k + 1 < stretches) continue;
         if (k < static_cast<int>(g.segments.size())) points.push_back({g.segments[k], true});
-        for (; next < end; ++next) points.push_back({weeks[next], false});
+        for (; next < end; ++next) {
+            if (!points.empty()) holidays_until(points, weeks[next].date - kWeek);
+            points.push_back({weeks[next], false});
+        }
     }
+    // Holidays since the latest week, or since the latest stretch began.
+    if (!points.empty()) holidays_until(points, g.rec.gamedate);
     return points;
 }
 
@@ -93,13 +117,15 @@ std::string graph_readout(const std::vector<GraphPoint>& points, int current) {
     if (current < 0 || current >= static_cast<int>(points.size())) return "No week played yet.";
     const GraphPoint& p = points[current];
     const std::string day = format_date(p.sample.date);
+    if (p.holiday)
+        return "Holiday, week ending " + day + ": the band was away and no week was played";
     std::string what;
     if (p.start) {
         what = (current == 0 ? "Start, " : "Game loaded, ") + day;
     } else {
         int week = 0, weeks = 0;
         for (int i = 0; i < static_cast<int>(points.size()); ++i) {
-            if (points[i].start) continue;
+            if (points[i].start || points[i].holiday) continue;
             ++weeks;
             if (i <= current) ++week;
         }
@@ -111,6 +137,8 @@ std::string graph_readout(const std::vector<GraphPoint>& points, int current) {
 
 std::array<std::string, 3> point_label(const std::vector<GraphPoint>& points, int current) {
     const GraphPoint& p = points.at(static_cast<std::size_t>(current));
+    if (p.holiday)
+        return {"Holiday, week ending " + format_date(p.sample.date), "The band was away", ""};
     const char* when = p.start ? (current == 0 ? "Start " : "Loaded ") : "Week ending ";
     return {when + format_date(p.sample.date), "Cash " + format_cash(p.sample.cash),
             "Popularity " + std::to_string(p.sample.popularity)};
@@ -118,6 +146,20 @@ std::array<std::string, 3> point_label(const std::vector<GraphPoint>& points, in
 
 std::string stretch_label(const GraphPoint& p) {
     return "loaded " + format_date(p.sample.date);
+}
+
+Place place_label(const Rect& plot, double x, double y1, double y2, double width, double height,
+                  double gap) {
+    Place at{x + gap, plot.top + gap};
+    if (at.left + width > plot.left + plot.width - gap / 2) at.left = x - gap - width;
+    const auto clear = [&](double top) {
+        return (y1 < top - 6 || y1 > top + height + 6) && (y2 < top - 6 || y2 > top + height + 6);
+    };
+    if (!clear(at.top)) {
+        const double bottom = plot.top + plot.height - gap - height;
+        if (clear(bottom)) at.top = bottom;
+    }
+    return at;
 }
 
 int graph_move(KeyAction action, int current, int count) {

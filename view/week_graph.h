@@ -14,14 +14,17 @@
 
 namespace tourvane {
 
-/// One point of the graph: the end of a week, or where a stretch of play began.
+/// One point of the graph: the end of a week, where a stretch of play began, or a week the
+/// band spent on holiday (its date only: no week was played, so it has no figures).
 struct GraphPoint {
     WeekSample sample;
     bool start = false;
+    bool holiday = false;
 };
 
-/// The points in the order they were played: each stretch from its start through its weeks.
-/// A stretch in which no week was played is left out, unless it is the latest.
+/// The points in the order they were played: each stretch from its start through its weeks,
+/// with the two weeks of each holiday where they fell. A stretch in which no week was played
+/// is left out, unless it is the latest.
 std::vector<GraphPoint> graph_points(const Game& g);
 
 /// One scale: its lowest and highest value and the step between its grid lines.
@@ -65,6 +68,7 @@ inline constexpr std::string_view kGraphName = "Week graph";
 inline constexpr std::string_view kPickedWeek = "Picked week";
 inline constexpr std::string_view kCashLine = "Cash (left scale)";
 inline constexpr std::string_view kFansLine = "Popularity (right scale)";
+inline constexpr std::string_view kHolidayMark = "holiday";
 inline constexpr std::string_view kGraphHint =
     "Point at the graph, or use Left, Right, Home and End.";
 
@@ -74,5 +78,14 @@ inline constexpr const char* kEmptyGraph =
 
 /// The point a graph key picks from `current` among `count` points (clamped to them).
 int graph_move(KeyAction action, int current, int count);
+
+/// Where the picked point's label goes so that it hides neither of the point's two marks
+/// (at `x`, `y1` and `x`, `y2`): right of the point if there is room, else left, at the top
+/// of the plot if the marks are clear of it, else at the bottom. Returns its top left corner.
+struct Place {
+    double left = 0, top = 0;
+};
+Place place_label(const Rect& plot, double x, double y1, double y2, double width, double height,
+                  double gap);
 
 }  // namespace tourvane

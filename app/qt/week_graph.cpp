@@ -23,6 +23,7 @@ namespace {
 const QColor kBackground("#141018"), kPlotPaper("#0d0b10"), kFrame("#4d4438"), kGrid("#2a2430");
 const QColor kInk("#ece6da"), kDim("#8a8172");
 const QColor kCashColour("#7fd67a"), kFansColour("#f0b650");
+const QColor kHolidayShade(120, 200, 255, 28);
 
 /// Up to this many points, each is marked with a dot.
 constexpr std::size_t kDottedPoints = 60;
@@ -164,6 +165,19 @@ void WeekGraphView::paintEvent(QPaintEvent*) {
         p.drawText(QPointF(left, r.bottom() + 19), text);
     }
 
+    // The weeks the band spent on holiday: a shaded band each, named at its foot.
+    const double half = n > 1 ? (x_of(1) - x_of(0)) / 2 : 0;
+    for (int i = 0; i < n; ++i) {
+        if (!points_[i].holiday || (i > 0 && points_[i - 1].holiday)) continue;
+        int last = i;
+        while (last + 1 < n && points_[last + 1].holiday) ++last;
+        const QRectF band(QPointF(x_of(i) - half, r.top()), QPointF(x_of(last) + half, r.bottom()));
+        p.fillRect(band.intersected(r), kHolidayShade);
+        p.setPen(kDim);
+        p.drawText(band.adjusted(0, 0, 0, -4), Qt::AlignHCenter | Qt::AlignBottom,
+                   qs(kHolidayMark));
+    }
+
     // Where a load started a new stretch of play, named over the plot.
     for (int i = 1; i < n; ++i) {
         if (!points_[i].start) continue;
@@ -180,6 +194,7 @@ void WeekGraphView::paintEvent(QPaintEvent*) {
     auto series = [&](const QColor& colour, auto value, const Scale& s) {
         QPainterPath path;
         for (int i = 0; i < n; ++i) {
+            if (points_[i].holiday) continue;  // no week played: the line runs across
             const QPointF at(x_of(i), y_of(value(points_[i].sample), s));
             if (i == 0 || points_[i].start)
                 path.moveTo(at);
@@ -191,6 +206,7 @@ void WeekGraphView::paintEvent(QPaintEvent*) {
         p.drawPath(path);
         if (points_.size() > kDottedPoints) return;
         for (int i = 0; i < n; ++i) {
+            if (points_[i].holiday) continue;
             p.setBrush(points_[i].start ? kPlotPaper : colour);
             p.drawEllipse(QPointF(x_of(i), y_of(value(points_[i].sample), s)), 3, 3);
         }
@@ -210,8 +226,10 @@ void WeekGraphView::paintEvent(QPaintEvent*) {
         const double x = x_of(current_);
         p.setPen(QPen(QColor(251, 246, 236, 110), 1));
         p.drawLine(QPointF(x, r.top()), QPointF(x, r.bottom()));
-        for (auto [colour, y] : {std::pair{kFansColour, y_of(pt.sample.popularity, fans_)},
-                                 std::pair{kCashColour, y_of(pt.sample.cash, cash_)}}) {
+        const double fans_y = y_of(pt.sample.popularity, fans_),
+                     cash_y = y_of(pt.sample.cash, cash_);
+        for (auto [colour, y] : {std::pair{kFansColour, fans_y}, std::pair{kCashColour, cash_y}}) {
+            if (pt.holiday) break;  // a holiday week has no figures to mark
             p.setPen(QPen(Qt::white, 1.5));
             p.setBrush(colour);
             p.drawEllipse(QPointF(x, y), 5, 5);
@@ -221,8 +239,9 @@ void WeekGraphView::paintEvent(QPaintEvent*) {
         double w = 0;
         for (const QString& l : lines) w = std::max(w, fm.horizontalAdvance(l));
         QRectF box(0, 0, w + 16, 3 * 15 + 10);
-        box.moveTopLeft(QPointF(x + 10, r.top() + 8));
-        if (box.right() > r.right() - 4) box.moveRight(x - 10);
+        const Rect plot{int(r.left()), int(r.top()), int(r.width()), int(r.height())};
+        const Place at = place_label(plot, x, fans_y, cash_y, box.width(), box.height(), 10);
+        box.moveTopLeft(QPointF(at.left, at.top));
         p.setPen(QPen(kFrame, 1));
         p.setBrush(QColor(27, 23, 32, 235));
         p.drawRoundedRect(box, 4, 4);

@@ -143,10 +143,10 @@ bool read_save(const std::filesystem::path& path, Module1& rec, FilePort& files)
 
 std::string slot_details(FilePort& files, int slot) {
     const auto bytes = files.read(slot_file(slot), kSaveBytes);
-    if (!bytes || bytes->empty()) return "Empty slot: no game saved here yet.";
+    if (!bytes || bytes->empty()) return std::string(kEmptySlot);
     // Read over an empty record rather than a copy of the running one: only saved fields show.
     const std::optional<Module1> game = parse_save(*bytes, Module1{});
-    if (!game) return "This file is damaged and cannot be loaded.";
+    if (!game) return std::string(kDamagedSlot);
     return game->bandname + ", " + format_date(game->gamedate) + ", " + format_cash(game->cash);
 }
 

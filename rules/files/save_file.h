@@ -6,6 +6,7 @@
 #include <optional>
 #include <span>
 #include <string>
+#include <string_view>
 #include <vector>
 
 #include "core/game.h"
@@ -38,6 +39,10 @@ bool write_save(const Module1& r, const std::filesystem::path& path, std::string
 /// Reads the save at `path` in `files` over `rec` (see load_save). False, with `rec`
 /// unchanged, when the file is missing, unreadable or no save.
 bool read_save(const std::filesystem::path& path, Module1& rec, FilePort& files = disk_files());
+
+/// What slot_details says of a slot with no save, and of one whose file can't be loaded.
+inline constexpr std::string_view kEmptySlot = "Empty slot: no game saved here yet.";
+inline constexpr std::string_view kDamagedSlot = "This file is damaged and cannot be loaded.";
 
 /// What a slot among `files` holds, for telling the slots apart: the band, the game
 /// date and the cash of its save ("The Wasps, 08/09/2001, £ 3000"), read as a load reads it;

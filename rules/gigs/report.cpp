@@ -57,6 +57,16 @@ constexpr std::array<const char*, 5> kClosingPhrases{
 
 }  // namespace
 
+std::string report_for_diary(const Module1& r, const std::string& review) {
+    const std::string crowd = r.attendance == 0   ? "nobody"
+                              : r.attendance == 1 ? "1 person"
+                                                  : std::to_string(r.attendance) + " people";
+    const std::string money = r.gigprofit > 0   ? "made " + format_pounds(r.gigprofit)
+                              : r.gigprofit < 0 ? "lost " + format_pounds(-r.gigprofit)
+                                                : "broke even";
+    return review + " The gig drew " + crowd + " and " + money + ".";
+}
+
 void newspaper(Game& g) {
     Module1& r = g.rec;
     if (g.gig.gigscore < kVeryBadGig) {
@@ -67,11 +77,7 @@ void newspaper(Game& g) {
     r.newstext = first_sentence(r.bandname, g.gig.gigscore, draw(g, 2));
     unload(g.forms.gig);
     load_thenewspaper(g);
-    const NewspaperForm& report = g.forms.thenewspaper;
-    note_in_diary(g, kReportSender,
-                  report.txtnews.caption + " " + report.Label1.caption + " " +
-                      report.txtattend.caption + ". " + report.Label5.caption + " " +
-                      report.txtprofit.caption + ".");
+    note_in_diary(g, kReportSender, report_for_diary(r, g.forms.thenewspaper.txtnews.caption));
     g.forms.main.command4.enabled = false;
     g.forms.thenewspaper.visible = true;
 }

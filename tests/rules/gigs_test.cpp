@@ -2,6 +2,7 @@
 // newspaper report, all driven through the clicks a player makes.
 
 #include "rules/gigs/booking.h"
+#include "rules/gigs/report.h"
 #include "rules/test_game.h"
 
 namespace tourvane::testing {
@@ -143,7 +144,7 @@ TEST_F(GigsTest, WorkedExampleFromBookingToOffice) {
     EXPECT_EQ(news.txtnews.caption.substr(104),
               "The best song of the gig was Alpha which really fired up the crowd.");
     EXPECT_EQ(g.diary.back().from + "|" + g.diary.back().text,
-              "Gig Report|" + news.txtnews.caption + " Attendance: 31. Profit: £-147.");
+              "Gig Report|" + news.txtnews.caption + " The gig drew 31 people and lost £147.");
     click(g, "thenewspaper", "Label2");
     EXPECT_EQ(str(g.forms.main.visible, news.loaded, g.forms.main.txtcash.caption), "1 0 £ 2853");
     EXPECT_EQ(click(g, "main", "command4"), ClickResult::NotUsableNow);  // one gig a week
@@ -250,6 +251,20 @@ TEST_F(GigsTest, ReportOpensByScoreAndDrawAndAVeryBadGigHurtsOneMember) {
     EXPECT_EQ(boxes(), Lines{okbox("Di Kit was extremely unhappy with the bands performance!")});
     const std::string& news = g.forms.thenewspaper.txtnews.caption;  // phrase 2 has no full stop
     EXPECT_EQ(news.substr(news.size() - 22), "rapport with the crowd");
+}
+
+TEST(GigReport, TheDiaryTellsTheCrowdAndTheMoneyInASentence) {
+    Module1 r;
+    const struct {
+        Integer heads, profit;
+        const char* says;
+    } cases[] = {{0, 0, "The gig drew nobody and broke even."},
+                 {1, 12, "The gig drew 1 person and made £12."},
+                 {31, -147, "The gig drew 31 people and lost £147."}};
+    for (const auto& c : cases) {
+        r.attendance = c.heads, r.gigprofit = c.profit;
+        EXPECT_EQ(report_for_diary(r, "Good."), std::string("Good. ") + c.says);
+    }
 }
 
 }  // namespace

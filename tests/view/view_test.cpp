@@ -8,6 +8,7 @@
 
 #include "core/diary.h"
 #include "rules/band/roster.h"
+#include "rules/files/save_file.h"
 #include "rules/test_game.h"
 #include "rules/week/events.h"
 #include "rules/week/turn.h"
@@ -103,7 +104,6 @@ TEST(Names, ControlsThatTakeTheKeysHaveNamesTheirNeighboursDoNotShare) {
             << form.name << "." << control_key(c);
     });
     t.g.forms.each_form([&](auto& form) {
-        if (std::string_view(form.name) == "savefrm") return;  // slots are told apart by number
         std::set<std::string> names;
         form.each([&](Control& c) {
             if (c.kind == ControlKind::Label) return;
@@ -119,6 +119,14 @@ TEST(Names, ControlsThatTakeTheKeysHaveNamesTheirNeighboursDoNotShare) {
     EXPECT_EQ(accessible_name(office, office.promote[1]), "Small £100");
     EXPECT_EQ(accessible_name(t.g.forms.Chart, t.g.forms.Chart.track[10]), "Place 10");
     EXPECT_EQ(accessible_name(t.g.forms.Chart, t.g.forms.Chart.track[11]), "2");
+    SaveForm& files = t.g.forms.savefrm;
+    files.saveslot[0].tooltip = "Keepers, 09/03/2002, £ 263";
+    files.saveslot[1].tooltip = kEmptySlot;
+    files.saveslot[2].tooltip = kDamagedSlot;
+    EXPECT_EQ(accessible_name(files, files.saveslot[0]), "Slot 1, Keepers, 09/03/2002, £ 263");
+    EXPECT_EQ(accessible_name(files, files.saveslot[1]), "Slot 2, empty");
+    EXPECT_EQ(accessible_name(files, files.saveslot[2]), "Slot 3, damaged");
+    EXPECT_EQ(accessible_name(files, files.saveslot[3]), "Slot 4");
 }
 
 TEST(Names, AHoverTellsTheWholeCaptionWhereItIsCutAndWhyAControlIsGrey) {
@@ -315,6 +323,35 @@ TEST(WeekGraph, StretchesWithoutWeeksAreLeftOutButTheLatest) {
     g.history.pop_back();
     g.segments.push_back({kStartDate + 21, 5, 5, 2});
     EXPECT_EQ(graph_points(g).size(), 4u);
+}
+
+TEST(WeekGraph, AHolidaysTwoWeeksStandWhereTheyFellWithNoFigures) {
+    TestGame t;
+    Game& g = t.g;
+    g.segments = {{kStartDate, 3000, 0, 0}};
+    g.history = {{kStartDate + 7, 2990, 4, 0}, {kStartDate + 28, 2600, 9, 0}};
+    g.rec.gamedate = kStartDate + 42;  // and another holiday since the latest week
+    const std::vector<GraphPoint> p = graph_points(g);
+    ASSERT_EQ(p.size(), 7u);
+    for (int i : {2, 3, 5, 6}) EXPECT_TRUE(p[i].holiday) << i;
+    EXPECT_EQ(p[3].sample.date, kStartDate + 21);
+    EXPECT_EQ(p[6].sample.date, kStartDate + 42);
+    EXPECT_EQ(graph_readout(p, 4), "Week 2 of 2, ending 29/09/2001: cash £ 2600, popularity 9");
+    EXPECT_EQ(graph_readout(p, 2),
+              "Holiday, week ending 15/09/2001: the band was away and no week was played");
+    EXPECT_EQ(point_label(p, 2)[1], "The band was away");
+    g.rec.gamedate = kStartDate + 28 + 7 * 300;  // no run of holidays: a date set by hand
+    EXPECT_EQ(graph_points(g).size(), 5u);
+}
+
+TEST(WeekGraph, ThePickedPointsLabelStandsClearOfItsMarks) {
+    const Rect plot{0, 0, 400, 200};
+    Place at = place_label(plot, 100, 150, 180, 120, 50, 10);
+    EXPECT_TRUE(at.left == 110 && at.top == 10);  // right of the point, at the top
+    at = place_label(plot, 350, 20, 100, 120, 50, 10);
+    EXPECT_TRUE(at.left == 220 && at.top == 140);  // no room on the right; a mark at the top
+    at = place_label(plot, 350, 20, 160, 120, 50, 10);
+    EXPECT_EQ(at.top, 10);  // marks at both ends: it stays at the top, beside them
 }
 
 TEST(WeekGraph, ScalesStepsMoneyAndKeys) {
