@@ -25,11 +25,21 @@ struct HelpSection {
 std::vector<HelpSection> key_help(Game& g);
 
 /// The key help window's words: its list, the list's columns and the About part.
-inline constexpr WindowWords kHelpWords{"Keys", "", "Close the key list"};
+inline constexpr WindowWords kHelpWords{"Help", "", "Close the help"};
+inline constexpr std::string_view kKeysPart = "Keys";
 inline constexpr std::string_view kHelpList = "Keys and what they do";
 inline constexpr std::string_view kHelpColumns[] = {"Key", "What it does"};
 inline constexpr std::string_view kAboutHeading = "About";
 inline constexpr std::string_view kAboutName = "About Tourvane";
+
+struct HelpParagraph {
+    std::string heading;
+    std::string text;
+};
+
+/// How to play, a short page of it: a heading and a paragraph for each part of the game.
+std::vector<HelpParagraph> how_to_play(const Game& g);
+inline constexpr std::string_view kHowToPlay = "How to play";
 
 /// What Tourvane is: its name and version, what it does, its licence.
 std::string about_text();

@@ -21,7 +21,7 @@ constexpr std::array kBindings{
     KeyBinding{"main", "V", Click, "command5", {}},
     KeyBinding{"main", "D", OpenDiary, {}, "Open the diary of memos and messages"},
     KeyBinding{"main", "G", OpenGraph, {}, "Open the week graph of cash and popularity"},
-    KeyBinding{"main", "F1", OpenHelp, {}, "Show these keys and what Tourvane is"},
+    KeyBinding{"main", "F1", OpenHelp, {}, "Show how to play, every key and what Tourvane is"},
     KeyBinding{"Form1", "N", Click, "New", "Start a new game"},
     KeyBinding{"Form1", "L", Click, "load", "Load a saved game"},
     KeyBinding{"messageForm", "Esc", Click, "command1", "OK: the memo is read"},

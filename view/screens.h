@@ -20,6 +20,9 @@ struct ScreenFace {
 /// How the screen of that form name presents itself; an empty face for an unknown name.
 ScreenFace screen_face(std::string_view form);
 
+/// The caption of the button that closes a window beside the office.
+inline constexpr std::string_view kCloseButton = "Close";
+
 /// The title every box of the game carries but the two prompts of NEW GAME.
 inline constexpr std::string_view kBoxTitle = "Tourvane";
 

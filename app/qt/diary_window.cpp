@@ -185,7 +185,7 @@ DiaryWindow::DiaryWindow(const Game& g)
 
     count_->setProperty("role", "readout");
     count_->setAccessibleName(qs(kDiaryCount));
-    auto* close = new QPushButton("Close", this);
+    auto* close = new QPushButton(qs(kCloseButton), this);
     close->setAccessibleName(qs(kDiaryWords.close));
     close->setAutoDefault(false);
     connect(close, &QPushButton::clicked, this, &QWidget::close);

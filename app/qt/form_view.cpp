@@ -11,6 +11,7 @@
 #include "app/qt/control_widgets.h"
 #include "app/qt/shortcuts.h"
 #include "app/qt/text.h"
+#include "app/qt/window_style.h"
 #include "view/controls.h"
 #include "view/notes.h"
 
@@ -90,7 +91,7 @@ FormView::FormView(const Game& g, FormState& form, std::vector<Control*> control
         b.control = c;
         b.widget = build(*c);
     }
-    setStyleSheet(skin_.style_sheet);
+    setStyleSheet(skin_.style_sheet + kToolTipStyle);
     for (Binding& b : bindings_)
         if (auto* list = qobject_cast<ListBox*>(b.widget)) list->fit_whole_rows();
     if (skin_.finish) skin_.finish(*this);
@@ -314,7 +315,10 @@ bool FormView::refresh(Binding& b) {
     w->setAccessibleDescription(qs(accessible_description(form_, c, cut, note, reason)));
 
     if (coloured && (!b.coloured || b.colour != c.color)) {
-        w->setStyleSheet(QStringLiteral("color: #%1;").arg(c.color, 6, 16, QLatin1Char('0')));
+        // For this label alone: a bare rule would colour its tool tip too.
+        w->setStyleSheet(QStringLiteral("#%1 { color: #%2; }")
+                             .arg(w->objectName())
+                             .arg(c.color, 6, 16, QLatin1Char('0')));
         b.colour = c.color;
         b.coloured = true;
     }

@@ -4,6 +4,9 @@
 #include <QHeaderView>
 #include <QLabel>
 #include <QPushButton>
+#include <QTabBar>
+#include <QTabWidget>
+#include <QTextBrowser>
 #include <QTreeWidget>
 #include <QVBoxLayout>
 
@@ -14,16 +17,27 @@
 
 namespace tourvane {
 
-KeyHelpWindow::KeyHelpWindow(Game& g) : keys_(new QTreeWidget(this)), about_(new QLabel(this)) {
+KeyHelpWindow::KeyHelpWindow(Game& g)
+    : parts_(new QTabWidget(this)),
+      how_(new QTextBrowser(this)),
+      keys_(new QTreeWidget(this)),
+      about_(new QLabel(this)) {
     setObjectName("keyhelp");
     setWindowTitle(qs(kHelpWords.title));
     setAccessibleName(qs(kHelpWords.title));
     dress_side_window(*this, place::kHelp);
-    resize(500, 590);
+    resize(520, 460);  // with its frame, within a 1920x1080 desktop at scale 2
     setMinimumSize(320, 300);
 
-    auto* heading = new QLabel(qs(kHelpWords.title), this);
-    heading->setProperty("role", "heading");
+    QString page;
+    for (const HelpParagraph& p : tourvane::how_to_play(g))
+        page += "<h3>" + qs(p.heading).toHtmlEscaped() + "</h3><p>" + qs(p.text).toHtmlEscaped() +
+                "</p>";
+    how_->document()->setDefaultStyleSheet("h3 { color: #f0b650; }");
+    how_->setHtml(page);
+    how_->setAccessibleName(qs(kHowToPlay));
+    how_->setOpenLinks(false);
+
     keys_->setAccessibleName(qs(kHelpList));
     keys_->setColumnCount(2);
     keys_->setHeaderLabels({qs(kHelpColumns[0]), qs(kHelpColumns[1])});
@@ -60,16 +74,19 @@ KeyHelpWindow::KeyHelpWindow(Game& g) : keys_(new QTreeWidget(this)), about_(new
     auto* about_heading = new QLabel(qs(kAboutHeading), this);
     about_heading->setProperty("role", "heading");
 
-    auto* close = new QPushButton("Close", this);
+    auto* close = new QPushButton(qs(kCloseButton), this);
     close->setAccessibleName(qs(kHelpWords.close));
     close->setAutoDefault(false);
     connect(close, &QPushButton::clicked, this, &QWidget::close);
     auto* bottom = new QHBoxLayout;
     bottom->addStretch(1);
     bottom->addWidget(close);
+    parts_->addTab(how_, qs(kHowToPlay));
+    parts_->addTab(keys_, qs(kKeysPart));
+    parts_->setAccessibleName(qs(kHelpWords.title));
+    parts_->tabBar()->setAccessibleName(qs(kHelpWords.title));
     auto* layout = new QVBoxLayout(this);
-    layout->addWidget(heading);
-    layout->addWidget(keys_, 1);
+    layout->addWidget(parts_, 1);
     layout->addWidget(about_heading);
     layout->addWidget(about_);
     layout->addLayout(bottom);

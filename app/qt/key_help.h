@@ -1,12 +1,14 @@
 #pragma once
-// The key help: every key of the game's key table, by where it works, and what Tourvane is:
-// its version and licence.
+// The help (F1): how to play, every key of the game's key table by where it works, and what
+// Tourvane is: its version and licence.
 
 #include <QWidget>
 
 #include "core/game.h"
 
 class QLabel;
+class QTabWidget;
+class QTextBrowser;
 class QTreeWidget;
 
 namespace tourvane {
@@ -18,9 +20,13 @@ class KeyHelpWindow : public QWidget {
     explicit KeyHelpWindow(Game& g);
 
     QTreeWidget* keys() const { return keys_; }
+    QTextBrowser* how_to_play() const { return how_; }
+    QTabWidget* parts() const { return parts_; }
     QLabel* about() const { return about_; }
 
   private:
+    QTabWidget* parts_;
+    QTextBrowser* how_;
     QTreeWidget* keys_;
     QLabel* about_;
 };

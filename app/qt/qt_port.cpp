@@ -2,10 +2,12 @@
 
 #include <QApplication>
 #include <QEvent>
+#include <QFontMetrics>
 #include <QInputDialog>
 #include <QMessageBox>
 #include <QPalette>
 #include <QPushButton>
+#include <algorithm>
 
 #include "app/qt/text.h"
 #include "view/screens.h"
@@ -35,6 +37,10 @@ QLineEdit {
     padding: 3px 5px; selection-background-color: #8a2a22; selection-color: #fff6e8;
 }
 )";
+
+/// The least width of a prompt, and what a window frame's buttons take of its title bar.
+constexpr int kPromptWidth = 360;
+constexpr int kFrameButtons = 160;
 
 void dress_box(QDialog& box) {
     QPalette p = QApplication::palette();
@@ -118,6 +124,11 @@ std::string QtPort::inputbox(std::string_view prompt, std::string_view title) {
     box.setTextValue(QString());
     box.setOkButtonText("OK");  // builds the buttons now, so that they too are dressed
     box.setCancelButtonText("Cancel");
+    // Wide enough for the frame to show the whole title beside its buttons.
+    const QFont title_font = QApplication::font("QMdiSubWindowTitleBar");
+    box.setMinimumWidth(std::max(
+        kPromptWidth,
+        QFontMetrics(title_font).horizontalAdvance(box.windowTitle()) * 2 + kFrameButtons));
     present(box, qs(prompt));
     if (box.result() != QDialog::Accepted) return {};
     return box.textValue().toStdString();

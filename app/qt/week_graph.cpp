@@ -278,7 +278,7 @@ WeekGraphWindow::WeekGraphWindow(const Game& g)
     setWindowTitle(qs(kGraphWords.title));
     setAccessibleName(qs(kGraphWords.title));
     dress_side_window(*this, place::kGraph);
-    resize(760, 500);
+    resize(720, 460);  // with its frame, within a 1920x1080 desktop at scale 2
     setMinimumSize(440, 320);
 
     auto* heading = new QLabel(qs(kGraphWords.title), this);
@@ -288,7 +288,7 @@ WeekGraphWindow::WeekGraphWindow(const Game& g)
     readout_->setAccessibleName(qs(kPickedWeek));
     auto* hint = new QLabel(qs(kGraphHint), this);
     hint->setProperty("role", "hint");
-    auto* close = new QPushButton("Close", this);
+    auto* close = new QPushButton(qs(kCloseButton), this);
     close->setAccessibleName(qs(kGraphWords.close));
     close->setAutoDefault(false);
     connect(close, &QPushButton::clicked, this, &QWidget::close);

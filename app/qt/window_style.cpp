@@ -18,6 +18,14 @@ QScrollBar::add-line, QScrollBar::sub-line { width: 0px; height: 0px; }
 QScrollBar::add-page, QScrollBar::sub-page { background: transparent; }
 )";
 
+const char* const kToolTipStyle = R"(
+QToolTip {
+    color: #2b2620; background: #f6f0dc; border: 1px solid #8a2a22; border-radius: 3px;
+    padding: 3px 5px; font-family: "Liberation Sans", Arial; font-size: 12px;
+    font-weight: normal; font-style: normal;
+}
+)";
+
 void dress_side_window(QWidget& window, std::string_view where) {
     QPalette p = window.palette();
     const QColor ink("#ece6da"), paper("#1b1720"), field("#0d0b10"), gold("#c9973f");
@@ -72,7 +80,19 @@ QHeaderView::section {
     background: #2f2934; color: #f0b650; font-weight: bold; border: none;
     border-right: 1px solid #1b1720; padding: 3px 6px;
 }
-)") + kScrollBarStyle);
+QTextBrowser {
+    background: #0d0b10; color: #ece6da; border: 1px solid #4d4438; border-radius: 2px;
+}
+QTextBrowser:focus { border-color: #c9973f; }
+QTabWidget::pane { border: none; }
+QTabBar::tab {
+    background: #2f2934; color: #d8cfbf; border: 1px solid #4d4438; border-bottom: none;
+    padding: 4px 14px; margin-right: 2px; border-top-left-radius: 4px;
+    border-top-right-radius: 4px;
+}
+QTabBar::tab:selected { background: #0d0b10; color: #f0b650; font-weight: bold; }
+QTabBar::tab:focus { border-color: #c9973f; }
+)") + kScrollBarStyle + kToolTipStyle);
     bind_keys(window, where, {KeyAction::Close}, [&window](const KeyBinding&) { window.close(); });
 }
 

@@ -6,7 +6,6 @@
 namespace tourvane {
 
 namespace {
-constexpr int kReleasePrice = 1500;
 constexpr int kMaxHype = 100;
 }  // namespace
 

@@ -5,6 +5,9 @@
 
 namespace tourvane {
 
+/// What releasing a song as a single costs.
+inline constexpr int kReleasePrice = 1500;
+
 /// A double click on the track list: last week's sales of a single, or the offer to release.
 void songlist_dblclick(Game& g);
 

@@ -93,7 +93,7 @@ struct Harness {
 /// The contrast of a widget's text against its ground, read from the pixels of the box drawn
 /// on screen: the ground is the commonest colour, the ink the one furthest from it among the
 /// colours that cover a fair share of the rest (so that a few stray pixels do not count).
-double contrast(QDialog& box, QWidget* w) {
+double contrast(QWidget& box, QWidget* w) {
     const QImage image =
         box.grab(QRect(w->mapTo(&box, QPoint()), w->size()).adjusted(3, 3, -3, -3)).toImage();
     QHash<QRgb, int> count;
@@ -306,6 +306,36 @@ class WindowsTest : public QObject {
                                        Integer(w / 2 + w % 13), 0});
             side.graph().refresh();
             shoot(&side.graph(), "weekgraph_" + QString::number(weeks));
+        }
+    }
+
+    void toolTips() {
+        // A tip on every window reads as well as a box: the same look everywhere, over the dark
+        // screens and the paper ones alike.
+        QApplication::setEffectEnabled(Qt::UI_FadeTooltip, false);
+        QApplication::setEffectEnabled(Qt::UI_AnimateTooltip, false);
+        Harness h;
+        h.game_under_way();
+        SideWindows& side = h.windows->side();
+        std::vector<QWidget*> windows{&side.diary(), &side.graph(), &side.keys()};
+        h.g.forms.each_form([&](FormState& form) { windows.push_back(h.view(form.name)); });
+        for (QWidget* window : windows) {
+            window->show();
+            QVERIFY(QTest::qWaitForWindowExposed(window));
+            QWidget* under = window->findChildren<QWidget*>().value(0, window);
+            const QString text = "Pick a member in the band list first.\nNext Week: £ 3000";
+            QToolTip::showText(under->mapToGlobal(QPoint(4, 4)), text, under);
+            QWidget* tip = nullptr;
+            for (QWidget* w : QApplication::topLevelWidgets())
+                if (w->inherits("QTipLabel") && w->isVisible()) tip = w;
+            QVERIFY2(tip, qPrintable(window->objectName()));
+            const QString file = QString("%1/tip_%2@%3x.png")
+                                     .arg(TOURVANE_SCREENSHOT_DIR, window->objectName())
+                                     .arg(tip->devicePixelRatio());
+            QVERIFY(tip->grab().save(file));
+            QVERIFY2(contrast(*tip, tip) >= 4.5, qPrintable(window->objectName()));
+            QToolTip::hideText();
+            if (window != h.view("main")) window->hide();
         }
     }
 
