@@ -104,7 +104,7 @@ export const office = (page) => page.getByRole('region', { name: 'Office' });
 export const memo = (page) => page.getByRole('region', { name: 'Message' });
 export const files = (page) => page.getByRole('region', { name: 'Save and Load' });
 
-/// The box the rules wait on, by its title; `open` only when it is on show.
+/// The input box of that title, and the message box, as the rules wait on them.
 export function inputBox(page, heading) {
   return page.getByRole('dialog', { name: heading });
 }
@@ -125,27 +125,4 @@ export async function newGame(page, band = 'The Testers', boss = 'Sam') {
   await answerInput(page, 'NEW BAND', band);
   await answerInput(page, 'PLAYER NAME', boss);
   await office(page).waitFor();
-}
-
-/// Answers every box and reads every memo until the office takes clicks again; returns the
-/// texts of the boxes, in order.
-export async function settle(page, answer = 'No') {
-  const seen = [];
-  for (;;) {
-    const box = messageBox(page);
-    if (await box.isVisible()) {
-      seen.push(await box.locator('.box-text').textContent());
-      const wanted = box.getByRole('button', { name: answer });
-      await ((await wanted.count()) ? wanted : box.getByRole('button', { name: 'OK' })).click();
-      continue;
-    }
-    const note = memo(page);
-    if (await note.isVisible()) {
-      await note.getByRole('button', { name: 'OK' }).click();
-      continue;
-    }
-    // Neither a box nor a memo: the click has run to its end once the page is not busy.
-    await page.waitForFunction(() => !document.body.classList.contains('busy'));
-    if (!(await box.isVisible()) && !(await note.isVisible())) return seen;
-  }
 }
