@@ -27,7 +27,11 @@ test('the page says it is loading until the game is ready, then shows the title 
     // The title's picture is the one drawn for it, at both densities.
     const picture = screen.locator('img.backdrop');
     assert.match(await picture.getAttribute('srcset'), /title\.png 1x, .*title@2x\.png 2x/);
-    assert.ok(await picture.evaluate((img) => img.complete && img.naturalWidth > 0));
+    await picture.evaluate((img) => new Promise((resolve, reject) => {
+      if (img.complete) (img.naturalWidth > 0 ? resolve : reject)();
+      img.addEventListener('load', resolve);
+      img.addEventListener('error', reject);
+    }));
     assert.deepEqual(browser.failures, []);
   } finally {
     await browser.done();
@@ -39,8 +43,11 @@ test('at twice the pixels a page pixel the pictures come at twice the pixels', a
   const { page } = browser;
   try {
     await openTitle(browser);
+    await page.waitForFunction(() => {
+      const img = document.querySelector('#screen-Form1 img.backdrop');
+      return img && img.complete && img.naturalWidth > 0;
+    });
     const picture = title(page).locator('img.backdrop');
-    await picture.evaluate((img) => img.decode());
     const shown = await picture.evaluate(async (img) => {
       const pixels = await createImageBitmap(await (await fetch(img.currentSrc)).blob());
       return { src: img.currentSrc.replace(/.*\//, ''), width: pixels.width,
