@@ -3,7 +3,9 @@
 # calls apt-get when a package is not installed yet.
 #
 #   deps.sh play   what building and running the game needs
-#   deps.sh test   that, and what the tests, benchmarks, fuzzing and the package test need
+#   deps.sh web    that, and what building and serving the web page needs
+#   deps.sh test   all of that, and what the tests, benchmarks, fuzzing, the package test and
+#                  the browser tests need
 #
 # As root it runs apt-get itself, as another user through sudo; without sudo it prints what
 # to install and fails.
@@ -13,6 +15,9 @@ play=(
   g++ cmake make
   qt6-base-dev qt6-svg-dev libgl-dev qt6-qpa-plugins fonts-liberation
 )
+web=(
+  emscripten node-acorn python3
+)
 test=(
   python3
   libgtest-dev libgmock-dev libbenchmark-dev
@@ -20,12 +25,16 @@ test=(
   xvfb xauth
   desktop-file-utils appstream
   dpkg-dev fakeroot lintian man-db
+  chromium
 )
+# The browser tests' packages come through npm, which some builds of nodejs carry themselves.
+command -v npm >/dev/null || test+=(npm)
 
 case "${1:-}" in
   play) packages=("${play[@]}") ;;
-  test) packages=("${play[@]}" "${test[@]}") ;;
-  *) echo "usage: deps.sh play|test" >&2; exit 2 ;;
+  web) packages=("${play[@]}" "${web[@]}") ;;
+  test) packages=("${play[@]}" "${web[@]}" "${test[@]}") ;;
+  *) echo "usage: deps.sh play|web|test" >&2; exit 2 ;;
 esac
 
 missing=()

@@ -5,6 +5,14 @@ add_executable(tourvane-make-bands tools/make_bands.cpp core/file_port.cpp
                                    rules/files/record_file.cpp rules/files/cp1252.cpp)
 target_include_directories(tourvane-make-bands PRIVATE ${CMAKE_CURRENT_SOURCE_DIR})
 target_link_libraries(tourvane-make-bands PRIVATE tourvane_warnings)
+if(EMSCRIPTEN)
+  # In the web build the tool runs under node at build time, on the real files, with its wasm
+  # inside its script (node's own fetch cannot load it from the disk).
+  # emcmake's emulator passes node a flag that newer nodes refuse: plain node runs it.
+  target_link_options(tourvane-make-bands PRIVATE -sNODERAWFS=1 -sSINGLE_FILE=1)
+  find_program(TOURVANE_NODE NAMES node nodejs REQUIRED)
+  set_target_properties(tourvane-make-bands PROPERTIES CROSSCOMPILING_EMULATOR ${TOURVANE_NODE})
+endif()
 
 set(TOURVANE_BANDS_TABLE ${CMAKE_CURRENT_SOURCE_DIR}/data/bands.txt)
 set(TOURVANE_BANDS_DAT ${CMAKE_BINARY_DIR}/bin/bands.dat)

@@ -2,11 +2,11 @@
 
 #include <algorithm>
 #include <array>
-#include <bit>
 #include <cmath>
 #include <cstring>
 #include <string_view>
 
+#include "core/bit_cast.h"
 #include "rules/files/record_file.h"
 #include "rules/files/save_file.h"
 
@@ -24,7 +24,7 @@ class Writer {
     void u64(std::uint64_t v, int n = 8) {
         for (int i = 0; i < n; ++i) out.push_back(static_cast<std::uint8_t>(v >> (8 * i)));
     }
-    void date(Date d) { u64(std::bit_cast<std::uint64_t>(d)); }
+    void date(Date d) { u64(bit_cast<std::uint64_t>(d)); }
     void text(const std::string& s) {
         u64(s.size(), 4);
         out.insert(out.end(), s.begin(), s.end());
@@ -51,7 +51,7 @@ class Reader {
         return v;
     }
     Date date() {
-        const Date d = std::bit_cast<Date>(u64());
+        const Date d = bit_cast<Date>(u64());
         if (!(d >= kFirstDay && d <= kLastDay)) fail();
         return ok ? d : 0;
     }

@@ -1,9 +1,9 @@
 #include "rules/files/record_file.h"
 
-#include <bit>
 #include <cmath>
 #include <cstring>
 
+#include "core/bit_cast.h"
 #include "rules/files/cp1252.h"
 
 namespace tourvane {
@@ -51,7 +51,7 @@ void RecordWriter::put_long(Long v) {
 }
 
 void RecordWriter::put_date(Date v) {
-    put_le(next_record(), std::bit_cast<std::uint64_t>(v), 8);
+    put_le(next_record(), bit_cast<std::uint64_t>(v), 8);
 }
 
 template <std::size_t N>
@@ -95,7 +95,7 @@ Long RecordReader::get_long() {
 }
 
 Date RecordReader::get_date() {
-    const Date d = std::bit_cast<Date>(take<8>());
+    const Date d = bit_cast<Date>(take<8>());
     if (!(d >= kFirstDay && d <= kLastDay)) {
         damaged_ = true;
         return 0.0;

@@ -2,11 +2,13 @@
 // saves, the save and load screen, the names NEW GAME refuses because a save can't hold them,
 // and the career's weeks and the stretches a load starts, kept beside each save.
 
+#include <bit>
 #include <cstring>
 #include <fstream>
 #include <functional>
 #include <sstream>
 
+#include "core/bit_cast.h"
 #include "core/diary.h"
 #include "flow/save_screen.h"
 #include "rules/files/cp1252.h"
@@ -250,6 +252,21 @@ TEST(SaveMark, IsTheFnv1aSumOfTheSaveBytes) {
     EXPECT_EQ(save_mark(Bytes{'f', 'o', 'o', 'b', 'a', 'r'}), 0x85944171f73967e8u);
     EXPECT_EQ(save_mark(two), 0xd1c57dbe008a30d1u);
     EXPECT_EQ(save_mark(Bytes(3 * 128)), 0xc86ec345c0ee8125u);
+}
+
+// Dates go into the files as the bits of their double, little end first: the library's bit_cast
+// and the copy the web build uses instead give the same bits, so both builds write the same save.
+TEST(DateBits, AreTheDoublesOwnBitsWhicheverCastMakesThem) {
+    EXPECT_EQ(bit_cast<std::uint64_t>(kStartDate), 0x40e221e000000000u);
+    for (const Date d : {kStartDate, kFirstDay, kLastDay, -0.0, 0.5, 37135.75}) {
+        EXPECT_EQ(copy_bits<std::uint64_t>(d), std::bit_cast<std::uint64_t>(d)) << d;
+        EXPECT_EQ(copy_bits<Date>(copy_bits<std::uint64_t>(d)), d) << d;
+    }
+    RecordWriter out;
+    out.put_date(kStartDate);
+    const Bytes all = out.take();
+    const Bytes record(all.begin(), all.begin() + 8);
+    EXPECT_EQ(record, (Bytes{0, 0, 0, 0, 0xe0, 0x21, 0xe2, 0x40}));
 }
 
 }  // namespace
