@@ -9,7 +9,6 @@
 
 #include <QApplication>
 #include <QDir>
-#include <QKeySequence>
 #include <QPainter>
 #include <QPixmap>
 #include <QWidget>
@@ -19,7 +18,6 @@
 #include <tuple>
 #include <vector>
 
-#include "app/qt/form_skins.h"
 #include "app/qt/pictures.h"
 #include "core/forms.h"
 
@@ -45,16 +43,10 @@ class Canvas : public QWidget {
     std::function<void(QPainter&)> paint_;
 };
 
-/// The office's buttons as the office screen draws them: each hot-spot with its tool tip and
-/// key, all enabled or all grey.
-std::vector<DrawnButton> office_buttons(OfficeForm& office, bool enabled) {
-    std::vector<DrawnButton> buttons;
-    for (const auto& [key, sequence] : office_keys()) {
-        const Control* c = find_control(office, key, -1);
-        if (!c) continue;
-        buttons.push_back({QRect(c->pos.left, c->pos.top, c->pos.width, c->pos.height),
-                           QString::fromStdString(c->tooltip), sequence.toString().at(0), enabled});
-    }
+/// The office's buttons as the office screen draws them, all enabled or all grey.
+std::vector<DrawnButton> all_buttons(const OfficeForm& office, bool enabled) {
+    std::vector<DrawnButton> buttons = drawn_buttons(office);
+    for (DrawnButton& b : buttons) b.enabled = enabled;
     return buttons;
 }
 
@@ -77,8 +69,8 @@ int main(int argc, char** argv) {
     const QString suffix = twice ? "@2x.png" : ".png";
 
     Forms forms;
-    const std::vector<DrawnButton> lit = office_buttons(forms.main, true);
-    const std::vector<DrawnButton> grey = office_buttons(forms.main, false);
+    const std::vector<DrawnButton> lit = all_buttons(forms.main, true);
+    const std::vector<DrawnButton> grey = all_buttons(forms.main, false);
     const std::vector<std::tuple<const char*, const FormState*, std::function<void(QPainter&)>>>
         pictures{
             {"title", &forms.Form1, [](QPainter& p) { paint_title(p); }},
