@@ -5,9 +5,11 @@
 #include <cstring>
 #include <fstream>
 #include <functional>
+#include <map>
 #include <sstream>
 
 #include "core/diary.h"
+#include "core/fields.h"
 #include "flow/save_screen.h"
 #include "rules/files/cp1252.h"
 #include "rules/files/history_file.h"
@@ -112,6 +114,67 @@ TEST_F(Saves, CraftedFileIsTakenFieldByFieldAndDamagedOnesAreRefused) {
         std::memcpy(b.data() + at(141), &day, 8);
         EXPECT_EQ(parse_save(b, r).value().gamedate, day);
     }
+}
+
+// Which field each of the 759 records holds: every element of the game is given a number of
+// its own (text "#number"), and each record of the save is read back to the element it came
+// from. chartlife(20) stands twice; record 143 holds none.
+TEST(SaveLayout, EachRecordHoldsItsFieldInFileOrder) {
+    ScriptedPort port;
+    Game g(port);
+    std::map<int, std::string> whose;
+    int id = 100;  // above the length word of any "#number"
+    for (const Field& f : fields(g))
+        for (int i = f.is_array() ? 0 : -1; i <= f.upper; ++i, ++id) {
+            whose[id] = f.name + (i < 0 ? "" : "(" + std::to_string(i) + ")");
+            if (f.type == FieldType::String) f.at<std::string>(i) = "#" + std::to_string(id);
+            if (f.type == FieldType::Long) f.at<Long>(i) = id;
+            if (f.type == FieldType::Date) f.at<Date>(i) = id;
+            if (f.type == FieldType::Integer || f.type == FieldType::Boolean) f.at<Integer>(i) = id;
+        }
+    std::vector<std::string> want{"bandname", "playername", "popularity", "signed"};
+    const auto each = [&](int first, int last, std::initializer_list<std::string> names) {
+        for (int i = first; i <= last; ++i)
+            for (const std::string& name : names)
+                want.push_back(name + "(" + std::to_string(i) + ")");
+    };
+    each(1, 4,
+         {"membername", "memberage", "membersex", "memberhappy", "memberill", "memberfriction",
+          "membertalent", "membercharisma", "memberattitude", "memberlooks", "membercreativity",
+          "listslot"});
+    each(1, 20, {"songname", "songquality", "released", "chartlife"});
+    want.insert(want.end(), {"cash", "vacancy", "tiredness", "nextsong", "songcount", "spareword",
+                             "songweeks", "interviewkind", "gamedate", "promotion", "none"});
+    each(1, 70,
+         {"chartband", "charttitle", "chartsales", "chartlastsales", "chartplace", "chartfame",
+          "chartquality", "chartdemand"});
+    each(20, 70, {"chartlife"});
+    each(1, 5, {"venueopen"});
+    const Bytes b = save_bytes(g.rec);
+    ASSERT_EQ(want.size() * 128, b.size());
+    for (std::size_t n = 0; n < want.size(); ++n) {
+        const auto record = std::span<const std::uint8_t>(b).subspan(n * 128, 128);
+        int number = record[2] == '#' ? std::stoi(RecordReader(record).get_string().substr(1))
+                                      : RecordReader(record).get_integer();
+        if (number == 0) number = static_cast<int>(RecordReader(record).get_date());
+        ASSERT_EQ(number ? whose[number] : "none", want[n]) << "record " << n + 1;
+    }
+}
+
+// The seed saves of the save-file fuzzer are saves as the game writes them: each that loads
+// saves back to its own bytes, a short one padded with the zeros it reads as.
+TEST(SaveLayout, RealSavesLoadAndSaveBackByteForByte) {
+    int saves = 0;
+    for (const auto& file :
+         std::filesystem::directory_iterator(testdata("fuzz/corpus/save_file"))) {
+        Bytes bytes = read_file(file.path(), 1 << 20).value();
+        Module1 r;
+        if (!load_save(bytes, r)) continue;
+        bytes.resize(kSaveBytes);
+        EXPECT_TRUE(save_bytes(r) == bytes) << file.path();
+        ++saves;
+    }
+    EXPECT_EQ(saves, 4);
 }
 
 TEST_F(Saves, FailingSaveKeepsTheOldSaveAndTheGame) {

@@ -48,6 +48,11 @@ struct TempDir {
     }
 };
 
+/// A file of the test data folder, `testdata/` at the top of the repository.
+inline std::filesystem::path testdata(const std::filesystem::path& name) {
+    return std::filesystem::path(TOURVANE_TESTDATA) / name;
+}
+
 /// The values written one after another with a blank between, to compare several at once.
 template <class... T>
 std::string str(const T&... v) {
