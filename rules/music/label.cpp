@@ -25,6 +25,7 @@ void command3(Game& g) {
 void contract_review(Game& g) {
     Module1& r = g.rec;
     if (is_true(r.signed_) && r.popularity < kKeepContract) {
+        // "the bands low popularity" is the game's own wording, kept as it stands.
         message(g,
                 "Bad news, Boss. Due to the bands low popularity, Superstar records have "
                 "terminated our contract!",
@@ -43,6 +44,7 @@ bool demo_verdict(Game& g) {
         message(g, "The record label rejected our demo tape.", "Mona");
         return false;
     }
+    // A quality of exactly 20, 25, 30 or 40 gives no memo: the game's rule, kept as designed.
     if (q > 20 && q < 25) {
         message(g, "The record label thought the song was ok but not what they are looking for.",
                 "Mona");
