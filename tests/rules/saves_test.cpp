@@ -49,8 +49,9 @@ TEST_F(Saves, KnownGameLandsInItsRecords) {
     // The longest name fills its record; text the game can't store never spills.
     r.bandname = std::string(125, 'x') + "é", r.playername = "日本";
     const Bytes c = save_bytes(r);
-    EXPECT_EQ(str(+c[0], +c[1], +c[127], +c[128], +c[129], +c[130], +c[131]),
-              "126 0 233 2 0 63 63");
+    for (auto [i, byte] :
+         {std::pair{0, 126}, {1, 0}, {127, 233}, {128, 2}, {129, 0}, {130, 63}, {131, 63}})
+        EXPECT_EQ(c[i], byte) << "byte " << i;
     EXPECT_EQ(parse_save(c, r).value().bandname, r.bandname);  // and it reads back
     r.bandname = std::string(200, 'y');
     EXPECT_EQ(save_bytes(r)[0], 126);
@@ -80,17 +81,17 @@ TEST_F(Saves, CraftedFileIsTakenFieldByFieldAndDamagedOnesAreRefused) {
     put(755, {0xFF, 0xFF});
     const auto loaded = parse_save(b, r);
     ASSERT_TRUE(loaded);
-    EXPECT_EQ(loaded->bandname + "|" + loaded->playername + "|" + loaded->songname[1],
-              "Zoë||“Hi”!");
-    EXPECT_EQ(str(loaded->signed_, loaded->memberhappy[1], loaded->cash, loaded->gamedate,
-                  loaded->chartlife[20], loaded->venueopen[1]),
-              "1 -1 -2147479552 37137 9 -1");
+    EXPECT_TRUE(testing::has(
+        *loaded, {is("bandname", "Zoë"), is("playername", ""), is("songname(1)", "“Hi”!"),
+                  is("signed", 1), is("memberhappy(1)", -1), is("cash", -2147479552),
+                  is("gamedate", 37137), is("chartlife(20)", 9), is("venueopen(1)", -1)}));
     // A short file reads empty and 0 from where it ends.
     const Bytes good = b;
     put(5, {1, 0, 'A'});
     b.resize(at(5) + 3);
     const Module1 cut = parse_save(b, r).value();
-    EXPECT_EQ(str(cut.membername[1], cut.cash, cut.songweeks, cut.gamedate), "A 0 0 0");
+    EXPECT_TRUE(testing::has(
+        cut, {is("membername(1)", "A"), is("cash", 0), is("songweeks", 0), is("gamedate", 0)}));
 
     const Date outside[] = {kFirstDay - 1, kLastDay + 1};  // 31 December 99, 1 January 10000
     const std::function<void(Bytes&)> damage[] = {
@@ -211,7 +212,8 @@ TEST_F(Saves, SaveFromTheOfficeAndALoadFromTheTitleInTheNextRun) {
     click(g, "savefrm", "saveslot", 2);
     click(g, "savefrm", "save");
     click(g, "main", "command5");  // captions don't follow saves made in this run...
-    EXPECT_EQ(str(g.forms.savefrm.loaded, g.forms.savefrm.saveslot[2].caption), "1 GAME SLOT 1");
+    EXPECT_TRUE(has({is("savefrm.loaded", g.forms.savefrm.loaded, true),
+                     is(g.forms.savefrm.saveslot[2], "GAME SLOT 1")}));
     TestGame t;              // ...and show the band from the next start on
     t.r.singlehype[1] = 55;  // not in a save: the running value stays
     click(t.g, "Form1", "load");
@@ -220,19 +222,22 @@ TEST_F(Saves, SaveFromTheOfficeAndALoadFromTheTitleInTheNextRun) {
     click(t.g, "savefrm", "back");
     EXPECT_TRUE(f.loaded && !f.visible);
     click(t.g, "Form1", "load");  // the next opening finds it as left
-    EXPECT_EQ(str(f.save.visible, f.load.pos.left, f.saveslot[3].value, f.saveslot[0].value,
-                  f.saveslot[1].caption, f.saveslot[2].caption),
-              "0 88 1 0 GAME SLOT 1 The Wasps");
     const std::string empty = "Empty slot: no game saved here yet.";
-    EXPECT_EQ(f.saveslot[0].tooltip + "|" + f.saveslot[1].tooltip, empty + "|" + empty);
+    EXPECT_TRUE(t.has(
+        {is("save.visible", f.save.visible, false), is("load.left", f.load.pos.left, 88),
+         is("saveslot(3).value", f.saveslot[3].value, true),
+         is("saveslot(0).value", f.saveslot[0].value, false), is(f.saveslot[1], "GAME SLOT 1"),
+         is(f.saveslot[2], "The Wasps"), is("saveslot(0).tooltip", f.saveslot[0].tooltip, empty),
+         is("saveslot(1).tooltip", f.saveslot[1].tooltip, empty)}));
     EXPECT_EQ(f.saveslot[2].tooltip, "The Wasps, 01/09/2001, £ 1234");
     EXPECT_EQ(f.saveslot[3].tooltip, "This file is damaged and cannot be loaded.");
     EXPECT_EQ(t.r.cash, 3000);  // the running game is untouched
     click(t.g, "savefrm", "saveslot", 2);
     click(t.g, "savefrm", "load");
-    EXPECT_EQ(str(t.g.forms.Form1.loaded, f.loaded, t.g.forms.main.visible, t.r.singlehype[1],
-                  t.g.forms.main.txtcash.caption),
-              "0 0 1 55 £ 1234");
+    EXPECT_TRUE(t.has({is("Form1.loaded", t.g.forms.Form1.loaded, false),
+                       is("savefrm.loaded", f.loaded, false),
+                       is("main.visible", t.g.forms.main.visible, true), is("singlehype(1)", 55),
+                       is(t.g.forms.main.txtcash, "£ 1234")}));
     std::string why;  // the first slot's name is read as the others' are
     ASSERT_TRUE(write_save(t.r, slot_file(0), why));
     EXPECT_EQ(TestGame().r.slotname[0], "The Wasps");
@@ -252,11 +257,18 @@ TEST_F(Saves, NewGameRefusesNamesASaveCannotHold) {
     EXPECT_TRUE(g.forms.main.visible);
 }
 
-/// Each sample as "days-since-start cash popularity stretch;".
-std::string samples(const std::vector<WeekSample>& weeks) {
-    std::string out;
-    for (const WeekSample& w : weeks)
-        out += str(w.date - kStartDate, w.cash, w.popularity, w.segment) + ";";
+/// What the samples of `weeks` (g.history or g.segments) should be, each as {days since the
+/// start, cash, popularity, stretch}.
+std::vector<Want> samples(const char* what, const std::vector<WeekSample>& weeks,
+                          const std::vector<std::array<int, 4>>& want) {
+    std::vector<Want> out{is(std::string(what) + " size", weeks.size(), want.size())};
+    for (std::size_t k = 0; k < std::min(weeks.size(), want.size()); ++k) {
+        const std::string at = what + ("[" + std::to_string(k) + "].");
+        out.insert(out.end(), {is(at + "days", weeks[k].date - kStartDate, want[k][0]),
+                               is(at + "cash", weeks[k].cash, want[k][1]),
+                               is(at + "popularity", weeks[k].popularity, want[k][2]),
+                               is(at + "segment", weeks[k].segment, want[k][3])});
+    }
     return out;
 }
 
@@ -272,14 +284,14 @@ TEST_F(Saves, ALoadStartsANewStretchAndADamagedOrForeignHistoryIsLeftOut) {
     week_and_save(0);
     r.cash = 77;
     week_and_save(1);
-    EXPECT_EQ(samples(g.history), "7 3000 -1 0;14 77 -1 0;");
-    EXPECT_EQ(samples(g.segments), "0 3000 0 0;");
+    EXPECT_TRUE(has(samples("history", g.history, {{7, 3000, -1, 0}, {14, 77, -1, 0}})));
+    EXPECT_TRUE(has(samples("segments", g.segments, {{0, 3000, 0, 0}})));
     click(g, "main", "command5");
     click(g, "savefrm", "saveslot", 0);
     click(g, "savefrm", "load");
-    EXPECT_EQ(samples(g.segments), "0 3000 0 0;7 3000 -1 1;");
+    EXPECT_TRUE(has(samples("segments", g.segments, {{0, 3000, 0, 0}, {7, 3000, -1, 1}})));
     week_and_save(2);
-    EXPECT_EQ(samples(g.history), "7 3000 -1 0;14 3000 -1 1;");
+    EXPECT_TRUE(has(samples("history", g.history, {{7, 3000, -1, 0}, {14, 3000, -1, 1}})));
 
     // Damaged, cut short, foreign, another save's, or missing: the load works, with no history.
     const auto good = read_file(history_file(0), 1 << 20).value();
@@ -297,9 +309,12 @@ TEST_F(Saves, ALoadStartsANewStretchAndADamagedOrForeignHistoryIsLeftOut) {
         TestGame u;
         click(u.g, "Form1", "load");
         click(u.g, "savefrm", "load");
-        EXPECT_EQ(str(k, u.g.forms.savefrm.loaded, u.g.diary.size(), u.g.history.size(),
-                      u.g.segments.size(), u.g.diary.back().text),
-                  str(k, "0 1 0 1 Game Loaded"));
+        EXPECT_TRUE(
+            u.has({is("savefrm.loaded", u.g.forms.savefrm.loaded, false),
+                   is("diary size", u.g.diary.size(), 1), is("history size", u.g.history.size(), 0),
+                   is("segments size", u.g.segments.size(), 1),
+                   is("the diary's last", u.g.diary.back().text, "Game Loaded")}))
+            << k;
     }
 }
 
