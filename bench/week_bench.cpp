@@ -281,5 +281,25 @@ void BM_Load(benchmark::State& state) {
 }
 BENCHMARK(BM_Load)->UseRealTime();
 
+/// The save's records laid in memory and read back over the running record, with no file:
+/// the part of a save and of a load that walks the fields.
+void BM_SaveBytes(benchmark::State& state) {
+    SignedBand band;
+    for (auto _ : state) benchmark::DoNotOptimize(save_bytes(band.g.rec));
+    state.SetItemsProcessed(state.iterations());
+}
+BENCHMARK(BM_SaveBytes);
+
+void BM_LoadBytes(benchmark::State& state) {
+    SignedBand band;
+    const std::vector<std::uint8_t> bytes = save_bytes(band.g.rec);
+    for (auto _ : state) {
+        if (!load_save(bytes, band.g.rec)) state.SkipWithError("the save did not load");
+        benchmark::DoNotOptimize(band.g.rec);
+    }
+    state.SetItemsProcessed(state.iterations());
+}
+BENCHMARK(BM_LoadBytes);
+
 }  // namespace
 }  // namespace tourvane

@@ -24,7 +24,8 @@ inline constexpr const char* kVacant = "None";
 /// 1 September 2001 as a day count from 30 December 1899.
 inline constexpr Date kStartDate = 37135.0;
 
-/// The shared record, fields in declared order.
+/// The shared record, fields in declared order. Each field also has its line in the table of
+/// core/fields.h, which names it and places it in the save; the build stops without it.
 struct Module1 {
     std::string bandname;
     Integer popularity = 0;

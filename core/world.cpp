@@ -24,6 +24,7 @@ constexpr const char* kSurnames[30] = {
     "Jackson", "Miller",     "Young", "Francis", "McGrath",  "Cook",     "Miles",    "Hewitt",
     "Warren",  "De Bourg",   "Casey", "Masters", "Peterson", "Lee"};
 
+// "Wierd" is the game's own spelling, kept as it stands.
 constexpr const char* kTitleFirst[20] = {"Wild",   "Extremes of", "Troubled", "Blue",    "Cold",
                                          "Hot",    "Wicked",      "Kickin'",  "Twisted", "Midnight",
                                          "Silent", "Funny",       "Wierd",    "Red",     "Morning",

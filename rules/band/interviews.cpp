@@ -15,6 +15,8 @@ void interview(Game& g) {
     }
     if (radio) score += Int(g.rnd() * 20) + 5;
 
+    // A score of exactly 20 or exactly 60 gives no memo: the game's rule, kept as designed.
+    // The texts keep the game's own spelling.
     const char* text = nullptr;
     if (score < 20)
         text = radio ? "The band interview went less well than expected"

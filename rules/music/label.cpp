@@ -40,6 +40,7 @@ void command3(Game& g) {
 void contract_review(Game& g) {
     Module1& r = g.rec;
     if (is_true(r.signed_) && r.popularity < kKeepPopularity) {
+        // "the bands low popularity" is the game's own wording, kept as it stands.
         message(g,
                 "Bad news, Boss. Due to the bands low popularity, Superstar records have "
                 "terminated our contract!",
@@ -58,6 +59,7 @@ bool demo_verdict(Game& g) {
         message(g, kVerdicts[0], "Mona");
         return false;
     }
+    // A quality of exactly 20, 25, 30 or 40 gives no memo: the game's rule, kept as designed.
     if (q > kRejectQuality && q < 25) {
         message(g, kVerdicts[1], "Mona");
     } else if (q > 25 && q < 30) {

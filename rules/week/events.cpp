@@ -17,9 +17,11 @@ void misbehaviour(Game& g) {
         switch (Int(g.rnd() * 5) + 1) {
             case 1:
                 message(g, name + " was arrested for drink driving this week.", "Mona");
+                // The game's rule, kept as designed: the draw is taken off and 1 added back.
                 store(r.popularity, r.popularity - Int(g.rnd() * 10) + 1);
                 break;
             case 2:
+                // "critiscising" is the game's own spelling, kept as it stands.
                 message(g, name + " has been heard critiscising another member of the band!",
                         "Mona");
                 add(r.memberfriction[i], 1);
@@ -27,6 +29,7 @@ void misbehaviour(Game& g) {
             case 3:
                 message(g, name + " got into a fight with a member of the press last night.",
                         "Mona");
+                // The game's rule, kept as designed: the draw is taken off and 1 added back.
                 store(r.popularity, r.popularity - Int(g.rnd() * 5) + 1);
                 add(r.memberfriction[i], 1);
                 break;
@@ -36,6 +39,8 @@ void misbehaviour(Game& g) {
                 add(r.memberfriction[i], 1);
                 break;
             default:
+                // "viscious" is the game's own spelling; the draw is taken off and 1 added back
+                // by the game's rule. Both are kept as designed.
                 message(g, name + " has been spreading viscious rumours about the band.", "Mona");
                 store(r.popularity, r.popularity - Int(g.rnd() * 10) + 1);
                 add(r.memberfriction[i], 1);
@@ -69,6 +74,7 @@ void press(Game& g) {
             break;
         case 2:
             message(g, "A recent newspaper article questioned the talent of the band!", "Dave");
+            // The game's rule, kept as designed: the draw is taken off and 1 added back.
             store(r.popularity, r.popularity - Int(g.rnd() * 5) + 1);
             break;
         case 3:

@@ -29,6 +29,9 @@ void practice_prompt(Game& g) {
 
 /// Charges the week's promotion. Returns false when the turn ends here (no time passes).
 bool charge_promotion(Game& g) {
+    // Each level meets short cash in its own way, as the game has it and kept as designed:
+    // Small stops the week only below 0 and may take the cash under 0, Medium stops the week
+    // with a memo, High says so and lets the week go on unpaid.
     Module1& r = g.rec;
     switch (r.promotion) {
         case 2:
@@ -90,6 +93,7 @@ bool pay_wages(Game& g) {
     for (int slot = 1; slot <= kMemberSlots; ++slot)
         if (!is_vacant(r, slot)) wages += Int(g.rnd() * kTopWage) + 1;
     if (wages > r.cash) {
+        // "Bad new, Boss" is the game's own text, kept as it stands.
         final_message(g, "Bad new, Boss. We're out of cash, and that means we're out of a job!",
                       "Dave");
         return false;

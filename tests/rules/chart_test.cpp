@@ -15,11 +15,15 @@ struct ChartStep : Office {
         r.chartdemand[i] = demand, r.chartfame[i] = fame, r.chartlife[i] = life,
         r.chartsales[i] = sales;
     }
-    /// A row as "band / title: demand fame quality life sales last".
-    std::string at(int i) {
-        return r.chartband[i] + " / " + r.charttitle[i] + ": " +
-               str(r.chartdemand[i], r.chartfame[i], r.chartquality[i], r.chartlife[i],
-                   r.chartsales[i], r.chartlastsales[i]);
+    /// What row i should hold: band, title, then demand, fame, quality, life, sales and last
+    /// sales.
+    static std::vector<Want> row_is(int i, const char* band, const char* title,
+                                    std::array<int, 6> values) {
+        std::vector<Want> out{is(field("chartband", i), band), is(field("charttitle", i), title)};
+        const char* names[] = {"chartdemand", "chartfame",  "chartquality",
+                               "chartlife",   "chartsales", "chartlastsales"};
+        for (int k = 0; k < 6; ++k) out.push_back(is(field(names[k], i), values[k]));
+        return out;
     }
 };
 
@@ -36,16 +40,16 @@ TEST_F(ChartStep, EachRowDrawsDemandFameAndLifeInTurn) {
     picks({{2, 2}, {1, 5}}), draws({0.45}), picks({{3, 3}, {1, 100}});
     tick(46);
     exactly([&] { chart_step(g); });
-    EXPECT_EQ(at(21), "Rival 21 / Hit 21: 44 1 50 250 132 55");
-    EXPECT_EQ(at(22), "Rival 22 / Hit 22: 0 0 50 299 0 9");
-    EXPECT_EQ(at(23), "Rival 23 / Hit 23: 29 6 50 99 28 0");
-    EXPECT_EQ(at(24), "Rival 24 / Hit 24: 2 8 50 299 6 0");
+    EXPECT_TRUE(has(row_is(21, "Rival 21", "Hit 21", {44, 1, 50, 250, 132, 55})));
+    EXPECT_TRUE(has(row_is(22, "Rival 22", "Hit 22", {0, 0, 50, 299, 0, 9})));
+    EXPECT_TRUE(has(row_is(23, "Rival 23", "Hit 23", {29, 6, 50, 99, 28, 0})));
+    EXPECT_TRUE(has(row_is(24, "Rival 24", "Hit 24", {2, 8, 50, 299, 6, 0})));
     // Next week the row at demand 0 is lifted to 1 before it moves.
     tick(2);
     picks({{2, 2}, {1, 5}, {1, 2}, {1, 3}, {1, 100}});
     tick(48);
     chart_step(g);
-    EXPECT_EQ(at(22), "Rival 22 / Hit 22: 2 1 50 298 5 0");
+    EXPECT_TRUE(has(row_is(22, "Rival 22", "Hit 22", {2, 1, 50, 298, 5, 0})));
 }
 
 TEST_F(ChartStep, SpentRowsTakeANewRecordFromThePool) {
@@ -61,25 +65,24 @@ TEST_F(ChartStep, SpentRowsTakeANewRecordFromThePool) {
     draws({0.99999999});
     picks({{100, 100}, {20, 20}, {20, 20}, {1, 45}});
     exactly([&] { chart_step(g); });
-    EXPECT_EQ(at(20), "Pool 0 / Wild Love: 50 13 74 309 0 0");
-    EXPECT_EQ(at(70), "Pool 50 / Shocked Feelings: 149 50 30 170 0 0");
-    EXPECT_EQ(str(r.chartband[21], r.chartlife[21]), "Rival 21 1");
+    EXPECT_TRUE(has(row_is(20, "Pool 0", "Wild Love", {50, 13, 74, 309, 0, 0})));
+    EXPECT_TRUE(has(row_is(70, "Pool 50", "Shocked Feelings", {149, 50, 30, 170, 0, 0})));
+    EXPECT_TRUE(has({is("chartband(21)", "Rival 21"), is("chartlife(21)", 1)}));
 }
 
 TEST_F(ChartStep, PlayerRowsStandStillAndRowTwentyIsARivalRow) {
     r.chartband[5] = "The Wasps", r.chartsales[5] = 77, r.chartlastsales[5] = 60;
-    const std::string row5 = at(5);
     // Song 20 on sale writes row 20, which the same week's step then moves as a rival row.
     songs(std::vector<int>(20, 10));
     r.signed_ = -1, r.released[20] = -1;
     row(20, 100, 10, 300, 20);
     picks({{5, 20}, {1, 100}});  // 5 copies
     singles_phase(g);
-    EXPECT_EQ(at(20), "The Wasps / Song 20: 100 10 50 300 5 20");
+    EXPECT_TRUE(has(row_is(20, "The Wasps", "Song 20", {100, 10, 50, 300, 5, 20})));
     tick(51);
     exactly([&] { chart_step(g); });
-    EXPECT_EQ(at(20), "The Wasps / Song 20: 101 11 50 299 303 5");
-    EXPECT_EQ(at(5), row5);
+    EXPECT_TRUE(has(row_is(20, "The Wasps", "Song 20", {101, 11, 50, 299, 303, 5})));
+    EXPECT_TRUE(has(row_is(5, "The Wasps", "", {0, 0, 0, 0, 77, 60})));
 }
 
 // The chart screen. Row i is "Band i" with "Title i" and sells i copies unless a test says
@@ -107,18 +110,20 @@ struct ChartScreen : Office {
 TEST_F(ChartScreen, AllSalesDifferentASnapshotUntilOkAndTiesToTheEarlierRowWhoseSalesRise) {
     open();
     EXPECT_TRUE(g.forms.Chart.visible && g.forms.main.usable());  // beside the office
-    for (int i = 1; i <= 70; ++i) EXPECT_EQ(str(r.chartplace[i], r.chartsales[i]), str(71 - i, i));
+    for (int i = 1; i <= 70; ++i)
+        EXPECT_TRUE(has({is(field("chartplace", i), 71 - i), is(field("chartsales", i), i)}));
     EXPECT_EQ(line(1).caption, "Band 70 with Title 70");
     EXPECT_EQ(top(10), "70 69 68 67 66 65 64 63 62 61");
     for (int p = 1; p <= 10; ++p) EXPECT_EQ(line(p).color, colour::kBrightWhite);
     EXPECT_EQ(g.forms.Chart.track[0].caption + g.forms.Chart.track[19].caption, "110");
     r.chartsales[1] = r.chartsales[2] = 5000;
     open();  // brought forward only
-    EXPECT_EQ(str(g.forms.Chart.forward_requests, top(1), r.chartplace[1]), "1 70 70");
+    EXPECT_TRUE(has({is("Chart.forward_requests", g.forms.Chart.forward_requests, 1),
+                     is("the top line", top(1), "70"), is("chartplace(1)", 70)}));
     EXPECT_EQ(click(g, "Chart", "command1"), ClickResult::Done);
     EXPECT_EQ(click(g, "Chart", "command1"), ClickResult::NotUsableNow);
     open();
-    EXPECT_EQ(str(top(3), r.chartsales[1]), "1 2 70 5001");
+    EXPECT_TRUE(has({is("the top 3 lines", top(3), "1 2 70"), is("chartsales(1)", 5001)}));
     Chart_command1(g);
 
     // Each case: the sales given, then row sales place after the ranking, then the top lines.
@@ -135,11 +140,17 @@ TEST_F(ChartScreen, AllSalesDifferentASnapshotUntilOkAndTiesToTheEarlierRowWhose
     };
     for (const auto& c : cases) {
         for (int i = 1; i <= 70; ++i) r.chartsales[i] = i;
-        std::string ranked;
         for (auto [row, s] : c.sales) r.chartsales[row] = s;
         open();
-        for (auto [row, s] : c.sales) ranked += str(r.chartsales[row], r.chartplace[row]) + " ";
-        EXPECT_EQ(ranked, c.ranked + " ");
+        std::istringstream ranked(c.ranked);
+        std::vector<Want> want;
+        for (auto [row, s] : c.sales) {
+            std::string sales, place;
+            ranked >> sales >> place;
+            want.insert(want.end(),
+                        {is(field("chartsales", row), sales), is(field("chartplace", row), place)});
+        }
+        EXPECT_TRUE(has(want));
         EXPECT_EQ(top(static_cast<int>(c.sales.size()) + (c.top[0] == '.' ? 1 : 0)), c.top);
         Chart_command1(g);
     }
@@ -162,16 +173,18 @@ TEST(LoadBands, FillsRowsPoolAndLifeAndFallsBackToTheBuiltInCopy) {
     std::string why;
     ASSERT_TRUE(replace_file("bands.dat", numbered_bands(), why));
     TestGame t;  // start-up runs loadbands
-    const Module1& r = t.r;
     for (int row = 20, i = 0; row <= 70; ++row, ++i)
-        EXPECT_EQ(str(r.chartband[row], r.charttitle[row], r.chartfame[row], r.chartquality[row],
-                      r.chartdemand[row], r.chartlife[row]),
-                  str("Band", i, "Song", i, i, 30 + i, 100 + i, (30 + i) * 4 + i));
-    EXPECT_EQ(r.rivalname[0] + r.rivalname[50], "Band 0Band 50");
-    EXPECT_EQ(r.rivalfame[50], 50);
-    for (int i = 51; i <= 60; ++i) EXPECT_EQ(r.rivalname[i] + std::to_string(r.rivalfame[i]), "0");
+        EXPECT_TRUE(
+            t.has({is(field("chartband", row), str("Band", i)),
+                   is(field("charttitle", row), str("Song", i)), is(field("chartfame", row), i),
+                   is(field("chartquality", row), 30 + i), is(field("chartdemand", row), 100 + i),
+                   is(field("chartlife", row), (30 + i) * 4 + i)}));
+    EXPECT_TRUE(t.has(
+        {is("rivalname(0)", "Band 0"), is("rivalname(50)", "Band 50"), is("rivalfame(50)", 50)}));
+    for (int i = 51; i <= 60; ++i)
+        EXPECT_TRUE(t.has({is(field("rivalname", i), ""), is(field("rivalfame", i), 0)}));
     for (int row = 0; row < 20; ++row)
-        EXPECT_EQ(r.chartband[row] + std::to_string(r.chartlife[row]), "0");
+        EXPECT_TRUE(t.has({is(field("chartband", row), ""), is(field("chartlife", row), 0)}));
 
     Game& g = t.g;
     ScriptedPort port;

@@ -28,7 +28,7 @@ TEST_F(Songs, RefusalsComeInOrderAndChangeNothingThenTheSongStarts) {
     full_band();
     r.songcount = 20;
     EXPECT_EQ(office("command1"), limit);
-    EXPECT_EQ(str(r.songweeks, g.rnd.queued_left()), "10 1");
+    EXPECT_TRUE(has({is("songweeks", 10), is("draws left", g.rnd.queued_left(), 1)}));
     // A rested band starts at once; a tired band is asked, and Yes costs happiness.
     g.rnd.clear_queue(), r.songcount = 3;
     for (int k : {1, 4}) {
@@ -44,10 +44,11 @@ TEST_F(Songs, RefusalsComeInOrderAndChangeNothingThenTheSongStarts) {
     pick(2, 4);
     no();
     EXPECT_EQ(office("command1"), Lines{yesno(ask, false)});
-    EXPECT_EQ(str(happiness(), r.songweeks), "1 10 5 0 10");
+    EXPECT_TRUE(has({is("memberhappy(1..4)", "1 10 5 0"), is("songweeks", 10)}));
     yes();
     EXPECT_EQ(office("command1"), (Lines{yesno(ask, true), kStarted}));
-    EXPECT_EQ(str(happiness(), r.songweeks, r.tiredness, r.cash), "0 9 4 0 5 1 3000");
+    EXPECT_TRUE(has({is("memberhappy(1..4)", "0 9 4 0"), is("songweeks", 5), is("tiredness", 1),
+                     is("cash", 3000)}));
 }
 
 TEST_F(Songs, MakesongDrawsQualityInSlotOrderThenTirednessThenTitleAndTheTurnCallsIt) {
@@ -64,15 +65,16 @@ TEST_F(Songs, MakesongDrawsQualityInSlotOrderThenTirednessThenTitleAndTheTurnCal
     draws({0.1});                       // slot 4: creativity 1
     picks({{1, 3}, {1, 20}, {6, 20}});  // tiredness 2, replacing 9; "Wild" " Love"
     exactly([&] { makesong(g); });
-    EXPECT_EQ(str(r.songquality[4], r.songname[4], r.tiredness, r.nextsong, r.songcount),
-              "15 Wild Love 2 4 4");
+    EXPECT_TRUE(has({is("songquality(4)", 15), is("songname(4)", "Wild Love"), is("tiredness", 2),
+                     is("nextsong", 4), is("songcount", 4)}));
     EXPECT_EQ(g.forms.main.songlist.rows, (Rows{"Song 1", "Song 2", "Song 3", "Wild Love"}));
     said({kFinished});
     full_band({.talent = 1, .creativity = 1});  // a band of 1s always writes quality 8
     for (int i = 0; i < 8; ++i) draws({0.999});
     picks({{3, 3}, {20, 20}, {20, 20}});
     makesong(g);
-    EXPECT_EQ(str(r.songname[5], r.songquality[5], r.tiredness), "Shocked Feelings 8 4");
+    EXPECT_TRUE(
+        has({is("songname(5)", "Shocked Feelings"), is("songquality(5)", 8), is("tiredness", 4)}));
     said({kFinished});
     // The turn that finishes a song leaves a tiredness of 1 to 3.
     calm_chart();
@@ -84,7 +86,8 @@ TEST_F(Songs, MakesongDrawsQualityInSlotOrderThenTirednessThenTitleAndTheTurnCal
         week_start();
         week_end(false);
         command6(g);
-        EXPECT_EQ(str(g.rnd.queued_left(), r.tiredness, r.songweeks), str(0, tired + 1, 10));
+        EXPECT_TRUE(has({is("draws left", g.rnd.queued_left(), 0), is("tiredness", tired + 1),
+                         is("songweeks", 10)}));
         EXPECT_EQ(memos().front(), kFinished);
         ok_memos();
     }
@@ -128,7 +131,8 @@ TEST_F(Label, SendingADemoTheVerdictTableAndTheContractHoldingAt900AndEndingAt89
     for (const auto& [quality, popularity, k] : rows) {
         r.songquality[2] = quality, r.popularity = popularity, r.signed_ = 0;
         g.main.demosent = -1, g.main.selectedsong = 2;
-        EXPECT_EQ(str(demo_verdict(g), g.main.demosent, r.signed_), str(k != 1, 0, k == 6 ? -1 : 0))
+        EXPECT_TRUE(has({is("demo_verdict", demo_verdict(g), k != 1), is("demosent", 0),
+                         is("signed", k == 6 ? -1 : 0)}))
             << quality;
         said(k ? Lines{words[k]} : Lines{});
     }
@@ -149,8 +153,8 @@ TEST_F(Label, SendingADemoTheVerdictTableAndTheContractHoldingAt900AndEndingAt89
     EXPECT_EQ(take().at(0), memo("Dave",
                                  "Bad news, Boss. Due to the bands low popularity, "
                                  "Superstar records have terminated our contract!"));
-    EXPECT_EQ(str(g.rnd.queued_left(), r.signed_, r.singlehype[1], r.singledemand[1], r.popularity),
-              "0 0 0 500 901");
+    EXPECT_TRUE(has({is("draws left", g.rnd.queued_left(), 0), is("signed", 0),
+                     is("singlehype(1)", 0), is("singledemand(1)", 500), is("popularity", 901)}));
 }
 
 struct Singles : Office {
@@ -173,10 +177,15 @@ struct Singles : Office {
         ok_memos();
         return take();
     }
-    /// Single k as "hype demand sales", then its chart row as "band/title sales last".
-    std::string single(int k) {
-        return str(r.singlehype[k], r.singledemand[k], r.singlesales[k],
-                   r.chartband[k] + "/" + r.charttitle[k], r.chartsales[k], r.chartlastsales[k]);
+    /// What single k should show: its chart row's band and title, then its hype, demand and
+    /// sales, and the row's sales and last sales.
+    static std::vector<Want> single(int k, const char* band, const char* title,
+                                    std::array<int, 5> values) {
+        std::vector<Want> out{is(field("chartband", k), band), is(field("charttitle", k), title)};
+        const char* names[] = {"singlehype", "singledemand", "singlesales", "chartsales",
+                               "chartlastsales"};
+        for (int i = 0; i < 5; ++i) out.push_back(is(field(names[i], k), values[i]));
+        return out;
     }
     Shown offer(bool yes) { return yesno("Do you want to release this song as a single?", yes); }
 };
@@ -192,13 +201,13 @@ TEST_F(Singles, ReleaseTakes1500AndSetsDemandThenAFirstWeekUnderHighPromotion) {
     yes();
     EXPECT_EQ(dbl(0), Lines{offer(true)});
     // Demand 30 * 4 + 1000; the chart row shows the single from its first week on.
-    EXPECT_EQ(single(1), "0 1120 0 / 0 0");
-    EXPECT_EQ(str(r.released[1], g.forms.main.txtcash.caption), "-1 £ 0");
+    EXPECT_TRUE(has(single(1, "", "", {0, 1120, 0, 0, 0})));
+    EXPECT_TRUE(has({is("released(1)", -1), is(g.forms.main.txtcash, "£ 0")}));
     r.cash = 1500;  // then a week of High promotion
     click(g, "main", "promote", 3);
     EXPECT_EQ(week({{20, 20}, {100, 100}, {1, 2}}).at(1), okbox("£39"));  // 78 + 20 copies
-    EXPECT_EQ(single(1), "8 1020 98 The Wasps/Song 1 98 0");
-    EXPECT_EQ(str(r.cash, r.popularity), str(1500 - 400 - 4 + 39, 1004));
+    EXPECT_TRUE(has(single(1, "The Wasps", "Song 1", {8, 1020, 98, 98, 0})));
+    EXPECT_TRUE(has({is("cash", 1500 - 400 - 4 + 39), is("popularity", 1004)}));
 }
 
 TEST_F(Singles, RoyaltiesAreTwoFifthsOfTheSalesWithABoxForEverySingle) {
@@ -209,10 +218,10 @@ TEST_F(Singles, RoyaltiesAreTwoFifthsOfTheSalesWithABoxForEverySingle) {
     exactly([&] { singles_phase(g); });
     EXPECT_EQ(take(), (Lines{okbox("£0"), okbox("£1"), okbox("£10"), okbox("£1")}));
     EXPECT_EQ(r.cash, 3012);
-    EXPECT_EQ(single(1), "0 0 1 The Wasps/Song 1 1 7");
-    EXPECT_EQ(single(2), "0 0 3 The Wasps/Song 2 3 14");
-    EXPECT_EQ(single(3), "100 2 25 The Wasps/Song 3 25 21");
-    EXPECT_EQ(single(4), "0 0 4 The Wasps/Song 4 4 28");
+    EXPECT_TRUE(has(single(1, "The Wasps", "Song 1", {0, 0, 1, 1, 7})));
+    EXPECT_TRUE(has(single(2, "The Wasps", "Song 2", {0, 0, 3, 3, 14})));
+    EXPECT_TRUE(has(single(3, "The Wasps", "Song 3", {100, 2, 25, 25, 21})));
+    EXPECT_TRUE(has(single(4, "The Wasps", "Song 4", {0, 0, 4, 4, 28})));
 }
 
 TEST_F(Singles, PromotionAddsHypeToReleasedSinglesAndTheTurnCapsItAt100) {
@@ -221,12 +230,12 @@ TEST_F(Singles, PromotionAddsHypeToReleasedSinglesAndTheTurnCapsItAt100) {
         r.singlehype[1] = 0;
         click(g, "main", "promote", k);
         week({{1, 20}, {1, 100}, {2, 2}});  // hype step +0
-        EXPECT_EQ(str(r.singlehype[1], r.singlehype[2]), str(k * 2 + 1, 0));
+        EXPECT_TRUE(has({is("singlehype(1)", k * 2 + 1), is("singlehype(2)", 0)}));
     }
     r.singlehype[1] = 98, r.singledemand[1] = 200;
     click(g, "main", "promote", 2);     // Medium: 103, then capped
     week({{1, 20}, {1, 100}, {1, 2}});  // 200 + 1 copies, then hype +1
-    EXPECT_EQ(single(1), "101 199 201 The Wasps/Song 1 201 1");
+    EXPECT_TRUE(has(single(1, "The Wasps", "Song 1", {101, 199, 201, 201, 1})));
 }
 
 TEST_F(Singles, ShelvedSingleOnlyMovesItsHype) {
@@ -236,7 +245,7 @@ TEST_F(Singles, ShelvedSingleOnlyMovesItsHype) {
     click(g, "main", "promote", 3);                // High adds nothing without the contract
     for (const Shown& s : week({{1, 2}, {2, 2}}))  // the practice question only
         EXPECT_TRUE(s.kind != Shown::Kind::Box || s.buttons == Buttons::YesNo) << s.text;
-    EXPECT_EQ(single(1), "11 300 40 The Wasps/ 40 12");
+    EXPECT_TRUE(has(single(1, "The Wasps", "", {11, 300, 40, 40, 12})));
     EXPECT_EQ(r.singlehype[2] * 100 + r.singlehype[3], 1000);  // only released songs move
     EXPECT_EQ(r.cash, 3000 - 400 - 4);
 }

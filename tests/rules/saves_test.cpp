@@ -6,10 +6,12 @@
 #include <cstring>
 #include <fstream>
 #include <functional>
+#include <map>
 #include <sstream>
 
 #include "core/bit_cast.h"
 #include "core/diary.h"
+#include "core/fields.h"
 #include "flow/save_screen.h"
 #include "rules/files/cp1252.h"
 #include "rules/files/history_file.h"
@@ -49,8 +51,9 @@ TEST_F(Saves, KnownGameLandsInItsRecords) {
     // The longest name fills its record; text the game can't store never spills.
     r.bandname = std::string(125, 'x') + "é", r.playername = "日本";
     const Bytes c = save_bytes(r);
-    EXPECT_EQ(str(+c[0], +c[1], +c[127], +c[128], +c[129], +c[130], +c[131]),
-              "126 0 233 2 0 63 63");
+    for (auto [i, byte] :
+         {std::pair{0, 126}, {1, 0}, {127, 233}, {128, 2}, {129, 0}, {130, 63}, {131, 63}})
+        EXPECT_EQ(c[i], byte) << "byte " << i;
     EXPECT_EQ(parse_save(c, r).value().bandname, r.bandname);  // and it reads back
     r.bandname = std::string(200, 'y');
     EXPECT_EQ(save_bytes(r)[0], 126);
@@ -80,17 +83,17 @@ TEST_F(Saves, CraftedFileIsTakenFieldByFieldAndDamagedOnesAreRefused) {
     put(755, {0xFF, 0xFF});
     const auto loaded = parse_save(b, r);
     ASSERT_TRUE(loaded);
-    EXPECT_EQ(loaded->bandname + "|" + loaded->playername + "|" + loaded->songname[1],
-              "Zoë||“Hi”!");
-    EXPECT_EQ(str(loaded->signed_, loaded->memberhappy[1], loaded->cash, loaded->gamedate,
-                  loaded->chartlife[20], loaded->venueopen[1]),
-              "1 -1 -2147479552 37137 9 -1");
+    EXPECT_TRUE(testing::has(
+        *loaded, {is("bandname", "Zoë"), is("playername", ""), is("songname(1)", "“Hi”!"),
+                  is("signed", 1), is("memberhappy(1)", -1), is("cash", -2147479552),
+                  is("gamedate", 37137), is("chartlife(20)", 9), is("venueopen(1)", -1)}));
     // A short file reads empty and 0 from where it ends.
     const Bytes good = b;
     put(5, {1, 0, 'A'});
     b.resize(at(5) + 3);
     const Module1 cut = parse_save(b, r).value();
-    EXPECT_EQ(str(cut.membername[1], cut.cash, cut.songweeks, cut.gamedate), "A 0 0 0");
+    EXPECT_TRUE(testing::has(
+        cut, {is("membername(1)", "A"), is("cash", 0), is("songweeks", 0), is("gamedate", 0)}));
 
     const Date outside[] = {kFirstDay - 1, kLastDay + 1};  // 31 December 99, 1 January 10000
     const std::function<void(Bytes&)> damage[] = {
@@ -114,6 +117,67 @@ TEST_F(Saves, CraftedFileIsTakenFieldByFieldAndDamagedOnesAreRefused) {
         std::memcpy(b.data() + at(141), &day, 8);
         EXPECT_EQ(parse_save(b, r).value().gamedate, day);
     }
+}
+
+// Which field each of the 759 records holds: every element of the game is given a number of
+// its own (text "#number"), and each record of the save is read back to the element it came
+// from. chartlife(20) stands twice; record 143 holds none.
+TEST(SaveLayout, EachRecordHoldsItsFieldInFileOrder) {
+    ScriptedPort port;
+    Game g(port);
+    std::map<int, std::string> whose;
+    int id = 100;  // above the length word of any "#number"
+    for (const Field& f : fields(g))
+        for (int i = f.is_array() ? 0 : -1; i <= f.upper; ++i, ++id) {
+            whose[id] = f.name + (i < 0 ? "" : "(" + std::to_string(i) + ")");
+            if (f.type == FieldType::String) f.at<std::string>(i) = "#" + std::to_string(id);
+            if (f.type == FieldType::Long) f.at<Long>(i) = id;
+            if (f.type == FieldType::Date) f.at<Date>(i) = id;
+            if (f.type == FieldType::Integer || f.type == FieldType::Boolean) f.at<Integer>(i) = id;
+        }
+    std::vector<std::string> want{"bandname", "playername", "popularity", "signed"};
+    const auto each = [&](int first, int last, std::initializer_list<std::string> names) {
+        for (int i = first; i <= last; ++i)
+            for (const std::string& name : names)
+                want.push_back(name + "(" + std::to_string(i) + ")");
+    };
+    each(1, 4,
+         {"membername", "memberage", "membersex", "memberhappy", "memberill", "memberfriction",
+          "membertalent", "membercharisma", "memberattitude", "memberlooks", "membercreativity",
+          "listslot"});
+    each(1, 20, {"songname", "songquality", "released", "chartlife"});
+    want.insert(want.end(), {"cash", "vacancy", "tiredness", "nextsong", "songcount", "spareword",
+                             "songweeks", "interviewkind", "gamedate", "promotion", "none"});
+    each(1, 70,
+         {"chartband", "charttitle", "chartsales", "chartlastsales", "chartplace", "chartfame",
+          "chartquality", "chartdemand"});
+    each(20, 70, {"chartlife"});
+    each(1, 5, {"venueopen"});
+    const Bytes b = save_bytes(g.rec);
+    ASSERT_EQ(want.size() * 128, b.size());
+    for (std::size_t n = 0; n < want.size(); ++n) {
+        const auto record = std::span<const std::uint8_t>(b).subspan(n * 128, 128);
+        int number = record[2] == '#' ? std::stoi(RecordReader(record).get_string().substr(1))
+                                      : RecordReader(record).get_integer();
+        if (number == 0) number = static_cast<int>(RecordReader(record).get_date());
+        ASSERT_EQ(number ? whose[number] : "none", want[n]) << "record " << n + 1;
+    }
+}
+
+// The seed saves of the save-file fuzzer are saves as the game writes them: each that loads
+// saves back to its own bytes, a short one padded with the zeros it reads as.
+TEST(SaveLayout, RealSavesLoadAndSaveBackByteForByte) {
+    int saves = 0;
+    for (const auto& file :
+         std::filesystem::directory_iterator(testdata("fuzz/corpus/save_file"))) {
+        Bytes bytes = read_file(file.path(), 1 << 20).value();
+        Module1 r;
+        if (!load_save(bytes, r)) continue;
+        bytes.resize(kSaveBytes);
+        EXPECT_TRUE(save_bytes(r) == bytes) << file.path();
+        ++saves;
+    }
+    EXPECT_EQ(saves, 4);
 }
 
 TEST_F(Saves, FailingSaveKeepsTheOldSaveAndTheGame) {
@@ -150,7 +214,8 @@ TEST_F(Saves, SaveFromTheOfficeAndALoadFromTheTitleInTheNextRun) {
     click(g, "savefrm", "saveslot", 2);
     click(g, "savefrm", "save");
     click(g, "main", "command5");  // captions don't follow saves made in this run...
-    EXPECT_EQ(str(g.forms.savefrm.loaded, g.forms.savefrm.saveslot[2].caption), "1 GAME SLOT 1");
+    EXPECT_TRUE(has({is("savefrm.loaded", g.forms.savefrm.loaded, true),
+                     is(g.forms.savefrm.saveslot[2], "GAME SLOT 1")}));
     TestGame t;              // ...and show the band from the next start on
     t.r.singlehype[1] = 55;  // not in a save: the running value stays
     click(t.g, "Form1", "load");
@@ -159,19 +224,22 @@ TEST_F(Saves, SaveFromTheOfficeAndALoadFromTheTitleInTheNextRun) {
     click(t.g, "savefrm", "back");
     EXPECT_TRUE(f.loaded && !f.visible);
     click(t.g, "Form1", "load");  // the next opening finds it as left
-    EXPECT_EQ(str(f.save.visible, f.load.pos.left, f.saveslot[3].value, f.saveslot[0].value,
-                  f.saveslot[1].caption, f.saveslot[2].caption),
-              "0 88 1 0 GAME SLOT 1 The Wasps");
     const std::string empty = "Empty slot: no game saved here yet.";
-    EXPECT_EQ(f.saveslot[0].tooltip + "|" + f.saveslot[1].tooltip, empty + "|" + empty);
+    EXPECT_TRUE(t.has(
+        {is("save.visible", f.save.visible, false), is("load.left", f.load.pos.left, 88),
+         is("saveslot(3).value", f.saveslot[3].value, true),
+         is("saveslot(0).value", f.saveslot[0].value, false), is(f.saveslot[1], "GAME SLOT 1"),
+         is(f.saveslot[2], "The Wasps"), is("saveslot(0).tooltip", f.saveslot[0].tooltip, empty),
+         is("saveslot(1).tooltip", f.saveslot[1].tooltip, empty)}));
     EXPECT_EQ(f.saveslot[2].tooltip, "The Wasps, 01/09/2001, £ 1234");
     EXPECT_EQ(f.saveslot[3].tooltip, "This file is damaged and cannot be loaded.");
     EXPECT_EQ(t.r.cash, 3000);  // the running game is untouched
     click(t.g, "savefrm", "saveslot", 2);
     click(t.g, "savefrm", "load");
-    EXPECT_EQ(str(t.g.forms.Form1.loaded, f.loaded, t.g.forms.main.visible, t.r.singlehype[1],
-                  t.g.forms.main.txtcash.caption),
-              "0 0 1 55 £ 1234");
+    EXPECT_TRUE(t.has({is("Form1.loaded", t.g.forms.Form1.loaded, false),
+                       is("savefrm.loaded", f.loaded, false),
+                       is("main.visible", t.g.forms.main.visible, true), is("singlehype(1)", 55),
+                       is(t.g.forms.main.txtcash, "£ 1234")}));
     std::string why;  // the first slot's name is read as the others' are
     ASSERT_TRUE(write_save(t.r, slot_file(0), why));
     EXPECT_EQ(TestGame().r.slotname[0], "The Wasps");
@@ -191,11 +259,18 @@ TEST_F(Saves, NewGameRefusesNamesASaveCannotHold) {
     EXPECT_TRUE(g.forms.main.visible);
 }
 
-/// Each sample as "days-since-start cash popularity stretch;".
-std::string samples(const std::vector<WeekSample>& weeks) {
-    std::string out;
-    for (const WeekSample& w : weeks)
-        out += str(w.date - kStartDate, w.cash, w.popularity, w.segment) + ";";
+/// What the samples of `weeks` (g.history or g.segments) should be, each as {days since the
+/// start, cash, popularity, stretch}.
+std::vector<Want> samples(const char* what, const std::vector<WeekSample>& weeks,
+                          const std::vector<std::array<int, 4>>& want) {
+    std::vector<Want> out{is(std::string(what) + " size", weeks.size(), want.size())};
+    for (std::size_t k = 0; k < std::min(weeks.size(), want.size()); ++k) {
+        const std::string at = what + ("[" + std::to_string(k) + "].");
+        out.insert(out.end(), {is(at + "days", weeks[k].date - kStartDate, want[k][0]),
+                               is(at + "cash", weeks[k].cash, want[k][1]),
+                               is(at + "popularity", weeks[k].popularity, want[k][2]),
+                               is(at + "segment", weeks[k].segment, want[k][3])});
+    }
     return out;
 }
 
@@ -211,14 +286,14 @@ TEST_F(Saves, ALoadStartsANewStretchAndADamagedOrForeignHistoryIsLeftOut) {
     week_and_save(0);
     r.cash = 77;
     week_and_save(1);
-    EXPECT_EQ(samples(g.history), "7 3000 -1 0;14 77 -1 0;");
-    EXPECT_EQ(samples(g.segments), "0 3000 0 0;");
+    EXPECT_TRUE(has(samples("history", g.history, {{7, 3000, -1, 0}, {14, 77, -1, 0}})));
+    EXPECT_TRUE(has(samples("segments", g.segments, {{0, 3000, 0, 0}})));
     click(g, "main", "command5");
     click(g, "savefrm", "saveslot", 0);
     click(g, "savefrm", "load");
-    EXPECT_EQ(samples(g.segments), "0 3000 0 0;7 3000 -1 1;");
+    EXPECT_TRUE(has(samples("segments", g.segments, {{0, 3000, 0, 0}, {7, 3000, -1, 1}})));
     week_and_save(2);
-    EXPECT_EQ(samples(g.history), "7 3000 -1 0;14 3000 -1 1;");
+    EXPECT_TRUE(has(samples("history", g.history, {{7, 3000, -1, 0}, {14, 3000, -1, 1}})));
 
     // Damaged, cut short, foreign, another save's, or missing: the load works, with no history.
     const auto good = read_file(history_file(0), 1 << 20).value();
@@ -236,9 +311,12 @@ TEST_F(Saves, ALoadStartsANewStretchAndADamagedOrForeignHistoryIsLeftOut) {
         TestGame u;
         click(u.g, "Form1", "load");
         click(u.g, "savefrm", "load");
-        EXPECT_EQ(str(k, u.g.forms.savefrm.loaded, u.g.diary.size(), u.g.history.size(),
-                      u.g.segments.size(), u.g.diary.back().text),
-                  str(k, "0 1 0 1 Game Loaded"));
+        EXPECT_TRUE(
+            u.has({is("savefrm.loaded", u.g.forms.savefrm.loaded, false),
+                   is("diary size", u.g.diary.size(), 1), is("history size", u.g.history.size(), 0),
+                   is("segments size", u.g.segments.size(), 1),
+                   is("the diary's last", u.g.diary.back().text, "Game Loaded")}))
+            << k;
     }
 }
 

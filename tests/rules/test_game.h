@@ -4,15 +4,23 @@
 
 #include <gtest/gtest.h>
 
+#include <array>
+#include <charconv>
 #include <cstdint>
+#include <cstdio>
 #include <cstdlib>
 #include <filesystem>
 #include <initializer_list>
+#include <iterator>
+#include <optional>
 #include <sstream>
 #include <string>
+#include <string_view>
+#include <type_traits>
 #include <utility>
 #include <vector>
 
+#include "core/fields.h"
 #include "core/game.h"
 #include "core/scripted_port.h"
 #include "core/ui.h"
@@ -48,13 +56,113 @@ struct TempDir {
     }
 };
 
-/// The values written one after another with a blank between, to compare several at once.
+/// A file of the test data folder, `testdata/` at the top of the repository.
+inline std::filesystem::path testdata(const std::filesystem::path& name) {
+    return std::filesystem::path(TOURVANE_TESTDATA) / name;
+}
+
+/// The values written one after another with a blank between, to make names and titles.
 template <class... T>
 std::string str(const T&... v) {
     std::ostringstream out;
     ((out << v << ' '), ...);
     const std::string s = out.str();
     return s.substr(0, s.size() - 1);
+}
+
+/// A value as a failure shows it: numbers in digits, true and false as 1 and 0.
+template <class T>
+std::string shown_value(const T& v) {
+    if constexpr (std::is_convertible_v<const T&, std::string_view>) {
+        return std::string(std::string_view(v));
+    } else if constexpr (std::is_integral_v<T>) {
+        return std::to_string(static_cast<long long>(v));
+    } else {
+        char buf[32];
+        return std::string(buf, std::to_chars(buf, buf + sizeof buf, v).ptr);
+    }
+}
+
+/// The name of element `index` of a field: "chartplace(5)".
+inline std::string field(std::string_view name, int index) {
+    return std::string(name) + "(" + std::to_string(index) + ")";
+}
+
+/// A value a test expects, under the name a failure gives it, made with `is` or `enabled`.
+struct Want {
+    std::string name;
+    std::string value;
+    std::optional<std::string> actual;  ///< the value found, unless the game's field is read
+};
+
+/// A field of the game, by its own name: is("popularity", 68), is("memberhappy(2)", 4), or
+/// one value a slot between blanks: is("memberhappy(1..4)", "10 4 7 10").
+template <class W>
+Want is(std::string name, const W& want) {
+    return {std::move(name), shown_value(want), std::nullopt};
+}
+/// Anything else, with the value it has: is("boxes", boxes().size(), 0).
+template <class G, class W>
+Want is(std::string name, const G& got, const W& want) {
+    return {std::move(name), shown_value(want), shown_value(got)};
+}
+/// A control's caption: is(f.txtcash, "£ 0"); "location(2)" for an element of an array.
+template <class W>
+Want is(const Control& c, const W& want) {
+    return is(c.index < 0 ? std::string(c.name) : field(c.name, c.index), c.caption, want);
+}
+/// Whether a control takes clicks: enabled(f.hire, false).
+inline Want enabled(const Control& c, bool want) {
+    return is(is(c, "").name + ".enabled", c.enabled, want);
+}
+
+/// Whether `g` holds every value of `wants`; the failure names each that differs, with the
+/// value expected and the value found.
+inline ::testing::AssertionResult has(Game& g, const std::vector<Want>& wants) {
+    const std::vector<Field> all = fields(g);
+    std::string wrong;
+    const auto compare = [&](const std::string& name, const std::string& want,
+                             const std::string& got) {
+        if (got != want) wrong += "\n  " + name + ": expected " + want + ", actual " + got;
+    };
+    for (const Want& w : wants) {
+        if (w.actual) {
+            compare(w.name, w.value, *w.actual);
+            continue;
+        }
+        // "name", "name(i)" or "name(i..j)", with one value a slot between blanks
+        const std::size_t open = w.name.find('(');
+        const Field* f = find_field(all, w.name.substr(0, open));
+        int first = -1, last = -1;
+        if (open != std::string::npos && std::sscanf(&w.name[open], "(%d..%d", &first, &last) == 1)
+            last = first;
+        std::istringstream in(w.value);
+        std::vector<std::string> values{std::istream_iterator<std::string>(in), {}};
+        if (last == first) values = {w.value};
+        const std::string slots = last > first ? str(first) + ".." + str(last) : str(first);
+        if (!f || w.name != (first < 0 ? f->name : f->name + ("(" + slots + ")")) ||
+            f->is_array() != (first >= 0) || last > f->upper ||
+            values.size() != static_cast<std::size_t>(last - first + 1)) {
+            wrong += "\n  " + w.name + " = " + w.value + ": no such field or slots";
+            continue;
+        }
+        for (int i = first; i <= last; ++i)
+            compare(i < 0 ? w.name : field(f->name, i), values[i - first],
+                    f->type == FieldType::String ? f->at<std::string>(i)
+                    : f->type == FieldType::Long ? shown_value(f->at<Long>(i))
+                    : f->type == FieldType::Date ? shown_value(f->at<Date>(i))
+                                                 : shown_value(f->at<Integer>(i)));
+    }
+    if (wrong.empty()) return ::testing::AssertionSuccess();
+    return ::testing::AssertionFailure() << wrong;
+}
+
+/// The same for a record alone, such as a save just read.
+inline ::testing::AssertionResult has(const Module1& rec, const std::vector<Want>& wants) {
+    ScriptedPort port;
+    Game g(port);
+    g.rec = rec;
+    return has(g, wants);
 }
 
 struct Member {
@@ -100,16 +208,22 @@ struct TestGame {
         for (int slot = 1; slot <= 4; ++slot) put(slot, names[slot], m);
     }
 
-    /// Slot s as "name|sex|age talent charisma attitude looks creativity happy friction".
-    std::string member(int s) const {
-        return r.membername[s] + "|" + r.membersex[s] + "|" +
-               str(r.memberage[s], r.membertalent[s], r.membercharisma[s], r.memberattitude[s],
-                   r.memberlooks[s], r.membercreativity[s], r.memberhappy[s], r.memberfriction[s]);
+    /// Whether the game holds every value of `wants` (see Want).
+    ::testing::AssertionResult has(const std::vector<Want>& wants) {
+        return testing::has(g, wants);
     }
-    /// `memberhappy` of slots 1 to 4, as "a b c d"; and setting them.
-    std::string happiness() const {
-        return str(r.memberhappy[1], r.memberhappy[2], r.memberhappy[3], r.memberhappy[4]);
+    /// What member slot s should hold: name, sex, then age, talent, charisma, attitude, looks,
+    /// creativity, happiness and friction.
+    static std::vector<Want> member(int s, const char* name, const char* sex,
+                                    std::array<int, 8> values) {
+        std::vector<Want> out{is(field("membername", s), name), is(field("membersex", s), sex)};
+        const char* names[] = {"memberage",      "membertalent",  "membercharisma",
+                               "memberattitude", "memberlooks",   "membercreativity",
+                               "memberhappy",    "memberfriction"};
+        for (int k = 0; k < 8; ++k) out.push_back(is(field(names[k], s), values[k]));
+        return out;
     }
+    /// Setting `memberhappy` of slots 1 to 4.
     void set_happy(int a, int b, int c, int d) {
         r.memberhappy = {0, Integer(a), Integer(b), Integer(c), Integer(d)};
     }

@@ -23,12 +23,13 @@ TEST_F(Turn, PromotionPricesWagesAndTheEarlyEndsOfShortMoney) {
         "Bad new, Boss. We're out of cash, and that means we're out of a job!";
     const struct {
         int level, cash, band;
-        std::string after, memo;  // cash, popularity, date, game over, Music Chart
+        std::array<int, 5> after;  // cash, popularity, date, game over, Music Chart
+        std::string memo;
     } cases[] = {
-        {1, -1, 0, "-1 0 37135 0 0", ""},       {1, 0, 0, "-100 3 37142 1 0", broke},
-        {2, 249, 0, "249 0 37135 0 0", none},   {2, 250, 0, "0 3 37142 0 1", ""},
-        {3, 399, 0, "399 -1 37142 0 1", tight}, {3, 400, 0, "0 4 37142 0 1", ""},
-        {0, 4, 1, "0 -1 37142 0 1", ""},        {0, 3, 1, "3 0 37142 1 0", broke},
+        {1, -1, 0, {-1, 0, 37135, 0, 0}, ""},       {1, 0, 0, {-100, 3, 37142, 1, 0}, broke},
+        {2, 249, 0, {249, 0, 37135, 0, 0}, none},   {2, 250, 0, {0, 3, 37142, 0, 1}, ""},
+        {3, 399, 0, {399, -1, 37142, 0, 1}, tight}, {3, 400, 0, {0, 4, 37142, 0, 1}, ""},
+        {0, 4, 1, {0, -1, 37142, 0, 1}, ""},        {0, 3, 1, {3, 0, 37142, 1, 0}, broke},
     };
     for (const auto& c : cases) {
         TestGame t;
@@ -38,9 +39,10 @@ TEST_F(Turn, PromotionPricesWagesAndTheEarlyEndsOfShortMoney) {
         command6(t.g);
         EXPECT_EQ(t.memos(), c.memo.empty() ? Lines{} : Lines{memo("Dave", c.memo)}) << c.cash;
         if (t.r.gamedate == 37135.0) t.ok_memos(), command6(t.g);  // again: still no time
-        EXPECT_EQ(str(t.r.cash, t.r.popularity, t.r.gamedate, t.g.game_over,
-                      t.g.forms.main.secret.enabled),
-                  c.after);
+        EXPECT_TRUE(t.has({is("cash", c.after[0]), is("popularity", c.after[1]),
+                           is("gamedate", c.after[2]), is("game_over", t.g.game_over, c.after[3]),
+                           enabled(t.g.forms.main.secret, c.after[4])}))
+            << c.cash;
         // Only a week that passes time is sampled, the last one too, whose memo bears its day.
         EXPECT_EQ(t.g.history.size(), t.r.gamedate > 37135.0 ? 1u : 0u) << c.cash;
         const double day = c.memo == broke ? 37142 : 37135;
@@ -58,17 +60,17 @@ TEST_F(Turn, LabelsDateVenuesResetsAndTheSongClock) {
     OfficeForm& f = g.forms.main;
     r.cash = -147, r.gamedate = 37135 + 122;
     update(g);
-    EXPECT_EQ(str(f.txtname.caption, f.txtdate.caption, f.txtcash.caption),
-              "Jo's Office 01/01/2002 £ -147");
+    EXPECT_TRUE(
+        has({is(f.txtname, "Jo's Office"), is(f.txtdate, "01/01/2002"), is(f.txtcash, "£ -147")}));
     r.cash = 3000, r.gamedate = 37135;
     for (int v : {1, 2, 1, 2, 1}) pick(v, 2);  // venues 1, 3 and 5 open
     r.interviewkind = 2, f.interview.enabled = true, g.main.applicantsseen = 6;
     r.tiredness = r.memberill[2] = 1;  // counted down in every slot, vacant or not
     command6(g);
-    EXPECT_EQ(str(r.venueopen[1], r.venueopen[2], r.venueopen[3], r.venueopen[4], r.venueopen[5],
-                  r.interviewkind, f.interview.enabled, g.main.applicantsseen, r.tiredness,
-                  r.memberill[2], r.songweeks, f.txtdate.caption),
-              "-1 0 -1 0 -1 0 0 0 0 0 10 08/09/2001");  // the song clock stands at 10
+    // The song clock stands at 10.
+    EXPECT_TRUE(has({is("venueopen(1..5)", "-1 0 -1 0 -1"), is("interviewkind", 0),
+                     enabled(f.interview, false), is("applicantsseen", 0), is("tiredness", 0),
+                     is("memberill(2)", 0), is("songweeks", 10), is(f.txtdate, "08/09/2001")}));
     r.songweeks = 5;
     command6(g);
     EXPECT_EQ(r.songweeks, 4);
@@ -101,8 +103,9 @@ TEST_F(Events, OnlyTheFirstMemberOfAttitudeOneToThreeIsTestedThenMisbehaviourAnd
             draws({(hit ? 0.999 : 1.001) / (a + 5)});
             if (hit) pick(2, 5);
             nobody_ill();  // would be a misbehaviour of slot 2 if it were tested
-            EXPECT_EQ(str(a, run(50).size(), r.memberfriction[1], r.memberfriction[2]),
-                      str(a, hit ? "1 1 0" : "0 0 0"));
+            EXPECT_TRUE(has({is("memos", run(50).size(), hit ? 1 : 0),
+                             is("memberfriction(1)", hit ? 1 : 0), is("memberfriction(2)", 0)}))
+                << a;
         }
 
     // Misbehaviour (kind 1 to 5 by Bob, from Mona) and press items (kind 1 to 3, from Dave), each
@@ -131,7 +134,8 @@ TEST_F(Events, OnlyTheFirstMemberOfAttitudeOneToThreeIsTestedThenMisbehaviourAnd
         if (c.press && c.top) pick(c.top, c.top);
         const Lines want{memo(c.bob ? "Mona" : "Dave", c.bob ? "Bob Axe" + c.text : c.text)};
         EXPECT_EQ(run(50, c.press), c.text.empty() ? Lines{} : want) << c.bob << c.press;
-        EXPECT_EQ(str(r.popularity, r.memberfriction[2]), str(c.popularity, c.friction)) << c.text;
+        EXPECT_TRUE(has({is("popularity", c.popularity), is("memberfriction(2)", c.friction)}))
+            << c.text;
     }
     for (bool good_piece : {false, true}) {
         picks({{1, 7}, {5, 5}, {10, 10}});  // rumours: 3 - 9 + 1 = -5
@@ -154,7 +158,7 @@ TEST_F(Events, OneIllnessAWeekReplacingWhatWasLeftAndInvitationsNeedMoreThanTwoH
     picks({{1, 1000}, {10, 10}});
     EXPECT_EQ(run(50),
               Lines{memo("Mona", "Di Kit has fallen ill and will be out for about 10 weeks.")});
-    EXPECT_EQ(str(r.memberill[2], r.memberill[4]), "1 10");
+    EXPECT_TRUE(has({is("memberill(2)", 1), is("memberill(4)", 10)}));
     r.memberill = {};
     nobody_ill();
     EXPECT_TRUE(run(200).empty());  // no invitation draw at 200
@@ -162,7 +166,8 @@ TEST_F(Events, OneIllnessAWeekReplacingWhatWasLeftAndInvitationsNeedMoreThanTwoH
         nobody_ill();
         picks({{4, 100}, {k, 10}});
         EXPECT_EQ(run(500, true).size(), k == 2 ? 1u : 0u);
-        EXPECT_EQ(str(r.interviewkind, g.forms.main.interview.enabled), k == 2 ? "2 1" : "0 0");
+        EXPECT_TRUE(
+            has({is("interviewkind", k == 2 ? 2 : 0), enabled(g.forms.main.interview, k == 2)}));
     }
     // A charity event lifts 200 to 201, and the invitation draw follows in the same week.
     nobody_ill();
@@ -171,7 +176,7 @@ TEST_F(Events, OneIllnessAWeekReplacingWhatWasLeftAndInvitationsNeedMoreThanTwoH
     exactly([&] { events(g); });
     EXPECT_EQ(memos().back(),
               memo("Dave", "Great news, Boss. The Band has been invited for a Radio interview!"));
-    EXPECT_EQ(str(r.popularity, r.interviewkind), "201 1");
+    EXPECT_TRUE(has({is("popularity", 201), is("interviewkind", 1)}));
     EXPECT_EQ(click(g, "main", "interview"), ClickResult::NotUsableNow);  // a memo is open
 }
 
