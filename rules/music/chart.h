@@ -9,6 +9,13 @@ namespace tourvane {
 /// records replaced by new records of bands from the rival pool.
 void chart_step(Game& g);
 
+/// The chart's ranking over bare columns of sales and places: rows 1 to `last` get their
+/// place among all 70 rows, and a tie lifts the earlier row's sales by 1. A row's place and
+/// sales depend only on the rows ranked before it, so ranking fewer rows gives those rows
+/// what ranking them all would; the places of rows after `last` are left as they are.
+void rank_rows(Arr<Long, kChartRows>& sales, Arr<Integer, kChartRows>& place,
+               int last = kChartRows);
+
 /// Ranks all 70 rows into `chartplace`; a tie lifts the earlier row's sales by 1.
 void rank_chart(Game& g);
 
