@@ -4,6 +4,7 @@
 #include <array>
 #include <limits>
 
+#include "core/career.h"
 #include "core/forms.h"
 
 namespace tourvane {
@@ -89,6 +90,27 @@ void rank_rows(Arr<Long, kChartRows>& sales, Arr<Integer, kChartRows>& place, in
 
 void rank_chart(Game& g) {
     rank_rows(g.rec.chartsales, g.rec.chartplace);
+}
+
+namespace {
+/// A single of the band's that is on the chart: out, written by the singles phase, and sold.
+/// (Row 20 is a rival row as much as the last song's, and counts as a rival's.)
+bool band_single_charts(const Module1& r, int row) {
+    return is_true(r.released[row]) && !r.charttitle[row].empty() && r.chartsales[row] > 0;
+}
+}  // namespace
+
+void tally_chart_place(Game& g) {
+    const Module1& r = g.rec;
+    int last = 0;
+    for (int row = 1; row < kFirstRivalRow; ++row)
+        if (band_single_charts(r, row)) last = row;
+    if (last == 0) return;
+    Arr<Long, kChartRows> sales = r.chartsales;  // the ranking's +1s stay in the copy
+    Arr<Integer, kChartRows> place{};
+    rank_rows(sales, place, last);
+    for (int row = 1; row <= last; ++row)
+        if (band_single_charts(r, row)) note_chart_place(g, place[row], r.charttitle[row]);
 }
 
 void load_Chart(Game& g) {

@@ -19,6 +19,10 @@ void rank_rows(Arr<Long, kChartRows>& sales, Arr<Integer, kChartRows>& place,
 /// Ranks all 70 rows into `chartplace`; a tie lifts the earlier row's sales by 1.
 void rank_chart(Game& g);
 
+/// At the end of a week: keeps in the career's tally the best place the chart screen would
+/// give one of the band's singles that has sold, ranking a copy of the chart.
+void tally_chart_place(Game& g);
+
 /// Music Chart: opens the chart beside the office, or brings it forward if it is open.
 void secret(Game& g);
 

@@ -1,0 +1,167 @@
+// A career seen whole: the tally kept as it is played and the summary of a career that ends.
+
+#include "core/career.h"
+#include "rules/band/roster.h"
+#include "rules/band/training.h"
+#include "rules/music/chart.h"
+#include "rules/week/turn.h"
+#include "test_game.h"
+
+namespace tourvane::testing {
+namespace {
+
+/// A date as the days since the first day of a new game; "-" for none.
+std::string day(Date d) {
+    return d == 0 ? "-" : str(d - kStartDate);
+}
+
+/// The tally as "hired lost demos gigs | best gig | best place song date".
+std::string tally(const CareerTally& t) {
+    const GigNote& b = t.best_gig;
+    return str(t.hired, t.lost, t.demos, t.gigs, "|", day(b.date), b.venue, b.attendance, b.profit,
+               b.score, "|", t.best_place, t.best_song, day(t.best_place_date));
+}
+
+/// A game whose files are kept in memory.
+struct Career : ::testing::Test, TestGame {
+    MemoryFiles files;
+    Career() { g.files = &files; }
+    /// Plays a gig of songs 1 to 3 at venue option `location` from the office.
+    void gig(int location) {
+        g.forms.main.command4.enabled = true;
+        ASSERT_EQ(click(g, "main", "command4"), ClickResult::Done);
+        ASSERT_EQ(click(g, "gig", "location", location), ClickResult::Done);
+        ASSERT_EQ(click(g, "gig", "command1"), ClickResult::Done);
+        for (int row : {0, 1, 2}) ASSERT_EQ(click(g, "gig", "Combo1", row), ClickResult::Done);
+        ASSERT_EQ(click(g, "gig", "command4"), ClickResult::Done);
+        ASSERT_EQ(click(g, "thenewspaper", "Label2"), ClickResult::Done);
+    }
+    /// Bankruptcy: a week whose wages the cash can't pay.
+    void go_bankrupt() {
+        r.cash = -1;
+        ok_memos();
+        command6(g);
+        ASSERT_TRUE(g.game_over);
+    }
+};
+
+// Hires, sackings, walk-outs, demos and gigs are counted by the clicks and the week that make
+// them; what only looks like one is not.
+TEST_F(Career, TallyCountsWhatTheCareerDid) {
+    new_game();
+    for (int k = 0; k < 4; ++k) ASSERT_EQ(click(g, "main", "hire"), ClickResult::Done);
+    full_band();
+    click(g, "main", "members", 3);
+    yes();
+    click(g, "main", "Command2");  // sacked
+    g.main.selectedmember = 4;
+    delete_member(g);  // an empty slot: nobody lost
+    click(g, "main", "hire");
+    full_band(), r.memberhappy[4] = 0;
+    ok_memos();
+    no(), pick(1, 5);  // no practice, and Di Kit walks out
+    office("command6");
+    EXPECT_EQ(r.membername[4], "None");
+    click(g, "main", "hire");
+    full_band();
+    EXPECT_EQ(tally(g.tally), "6 2 0 0 | -  0 0 0 | 0  -");
+
+    songs({45, 30, 20});
+    click(g, "main", "songlist", 0);
+    office("command3");
+    office("command3");  // already with the label
+    // Scores 131 (songs 95, talents -4, happiness 40), then equal, then 138: the first of
+    // equals stays best until a higher score.
+    r.popularity = 100, r.venueopen = {0, -1, -1, -1, -1, -1};
+    gig(0);
+    const std::string first = str(r.attendance, r.gigprofit);
+    EXPECT_EQ(first, "33 66");
+    gig(1);
+    EXPECT_EQ(tally(g.tally), "6 2 1 2 | 7 The Rose and Crown " + first + " 131 | 0  -");
+    r.membertalent[1] = 6;
+    gig(1);
+    EXPECT_EQ(tally(g.tally),
+              str("6 2 1 3 | 7 The Queens Head", r.attendance, r.gigprofit, "138 | 0  -"));
+}
+
+// The best place is the one the chart screen would give, ties and their +1 included, but on a
+// copy: the record keeps its sales and places. Only the band's own singles that are out, on
+// the chart and sold count; a better place replaces the best, an equal or worse one doesn't.
+TEST_F(Career, BestChartPlaceIsTheChartScreensRankingOfTheBandsSingles) {
+    new_game();
+    for (int row = 20; row <= kChartRows; ++row) r.chartsales[row] = row - 20;  // 0 to 50
+    auto single = [&](int row, Long sales, const char* title, bool out = true) {
+        r.released[row] = to_boolean(out), r.charttitle[row] = title, r.chartsales[row] = sales;
+    };
+    single(4, 60, "Four"), single(5, 60, "Five"), single(6, 61, "Six");
+    single(7, 90, ""), single(8, 95, "Unreleased", false), single(20, 99, "Twenty");
+    single(9, 0, "Nothing sold");
+    const Module1 before = r;
+    tally_chart_place(g);
+    EXPECT_EQ(r, before);
+    // Row 4 ties with 5 and then with 6, and so passes both: it outsells everyone but rows 7,
+    // 8 and 20.
+    EXPECT_EQ(tally(g.tally), "0 0 0 0 | -  0 0 0 | 4 Four 0");
+    rank_chart(g);
+    EXPECT_EQ(r.chartplace[4], 4);
+
+    r = before, r.gamedate += 7, r.chartsales[6] = 200;
+    tally_chart_place(g);
+    EXPECT_EQ(tally(g.tally), "0 0 0 0 | -  0 0 0 | 1 Six 7");
+    r.gamedate += 7;
+    tally_chart_place(g);  // an equal place: the first week of it stays
+    r.chartsales[6] = 0, r.chartsales[4] = 10;
+    tally_chart_place(g);
+    EXPECT_EQ(tally(g.tally), "0 0 0 0 | -  0 0 0 | 1 Six 7");
+
+    // Kept at the end of a played week, not of one that passed no time.
+    TestGame t;
+    t.new_game();
+    t.r.released[1] = kTrue, t.r.charttitle[1] = "Hit", t.r.chartsales[1] = 5;
+    t.r.cash = -1, t.r.promotion = 2;
+    command6(t.g);
+    EXPECT_EQ(t.g.tally.best_place, 0);
+    t.r.promotion = 1, t.r.cash = 100;
+    command6(t.g);
+    EXPECT_GT(t.g.tally.best_place, 0);
+}
+
+// The figures of a career that ends: the first and last day and the whole weeks between, the
+// peaks with the first day they were reached (a stretch's start and today count), the singles
+// out, the tally and how it ended.
+TEST_F(Career, SummaryOfACareerThatEndsInBankruptcy) {
+    new_game("The Wasps", "Sam");
+    r.popularity = 40;
+    command6(g);  // 8 September: 3000, 39
+    r.cash = 9000;
+    command6(g);  // 15 September: 9000, 38
+    click(g, "main", "command5");
+    click(g, "savefrm", "save");
+    r.cash = 100;
+    click(g, "main", "command5");
+    click(g, "savefrm", "load");  // a stretch from 15 September at 9000 again
+    g.tally.demos = 3, g.tally.best_place = 12, g.tally.best_song = "Song 2";
+    r.released[2] = r.released[5] = kTrue, r.released[3] = 1;
+    full_band();
+    yes();
+    holiday(g);  // 29 September
+    CareerSummary running = career_summary(g);
+    EXPECT_FALSE(running.bankrupt);
+    go_bankrupt();  // 6 October
+    const CareerSummary s = career_summary(g);
+    EXPECT_EQ(str(s.band, s.boss, s.first_day - kStartDate, s.last_day - kStartDate, s.weeks),
+              "The Wasps Sam 0 35 5");
+    EXPECT_EQ(str(s.peak_cash, s.peak_cash_date - kStartDate, s.peak_popularity,
+                  s.peak_popularity_date - kStartDate, s.singles, s.bankrupt),
+              "9000 14 40 0 2 1");
+    EXPECT_EQ(s.tally, g.tally);
+    // Today counts too: the peak of a career that has only just begun is where it stands.
+    TestGame t;
+    t.new_game().r.cash = 5000;
+    const CareerSummary fresh = career_summary(t.g);
+    EXPECT_EQ(str(fresh.first_day, fresh.weeks, fresh.peak_cash, fresh.peak_cash_date),
+              str(kStartDate, 0, 5000, kStartDate));
+}
+
+}  // namespace
+}  // namespace tourvane::testing
