@@ -93,11 +93,13 @@ void savefrm_load(Game& g) {
         MsgBox(g, "This file is not valid or does not exist.", Buttons::Ok, true);
         return;
     }
-    // The career's diary and weeks come back with it; a game saved with none starts afresh.
+    // The career's diary, weeks and tally come back with it; a game saved with none starts
+    // afresh.
     CareerHistory career = read_history(*g.files, slot, g.rec);
     g.diary = std::move(career.diary);
     g.history = std::move(career.history);
     g.segments = std::move(career.segments);
+    g.tally = std::move(career.tally);
     ++g.history_loads;
     begin_segment(g);
     unload(g.forms.Form1);

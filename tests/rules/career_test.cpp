@@ -1,8 +1,11 @@
-// A career seen whole: the tally kept as it is played and the summary of a career that ends.
+// A career seen whole: the tally kept as it is played and beside each save, and the summary
+// of a career that ends.
 
 #include "core/career.h"
 #include "rules/band/roster.h"
 #include "rules/band/training.h"
+#include "rules/files/history_file.h"
+#include "rules/files/save_file.h"
 #include "rules/music/chart.h"
 #include "rules/week/turn.h"
 #include "test_game.h"
@@ -161,6 +164,27 @@ TEST_F(Career, SummaryOfACareerThatEndsInBankruptcy) {
     const CareerSummary fresh = career_summary(t.g);
     EXPECT_EQ(str(fresh.first_day, fresh.weeks, fresh.peak_cash, fresh.peak_cash_date),
               str(kStartDate, 0, 5000, kStartDate));
+}
+
+// The history beside a save keeps the tally and brings it back; a history of the first kind,
+// written before there was a tally, still loads, with an empty one.
+TEST_F(Career, HistoryKeepsTheTallyAndReadsTheFirstKind) {
+    new_game();
+    g.tally = {3, 1, 2, 1, {kStartDate, "Town Hall", 120, -40, 88}, 9, "Hit", kStartDate + 7};
+    const Bytes save = save_bytes(r);
+    const Bytes bytes = history_bytes(g, save_mark(save));
+    const auto back = parse_history(bytes, save_mark(save));
+    ASSERT_TRUE(back);
+    EXPECT_EQ(back->tally, g.tally);
+
+    Bytes first = bytes;
+    first[7] = 1;
+    first.resize(bytes.size() - (48 + 9 + 3));  // the tally, its venue and its song
+    const auto old = parse_history(first, save_mark(save));
+    ASSERT_TRUE(old);
+    EXPECT_EQ(str(old->diary == g.diary, old->tally == CareerTally{}), "1 1");
+    first[7] = 2;  // the same bytes as the present kind lack the tally
+    EXPECT_FALSE(parse_history(first, save_mark(save)));
 }
 
 }  // namespace
