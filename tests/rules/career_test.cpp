@@ -1,9 +1,10 @@
-// A career seen whole: the tally kept as it is played and beside each save, and the summary
-// of a career that ends.
+// A career seen whole: the tally kept as it is played and beside each save, the summary of a
+// career that ends, and the hall of fame that keeps finished careers.
 
 #include "core/career.h"
 #include "rules/band/roster.h"
 #include "rules/band/training.h"
+#include "rules/files/hall_of_fame.h"
 #include "rules/files/history_file.h"
 #include "rules/files/save_file.h"
 #include "rules/music/chart.h"
@@ -164,6 +165,80 @@ TEST_F(Career, SummaryOfACareerThatEndsInBankruptcy) {
     const CareerSummary fresh = career_summary(t.g);
     EXPECT_EQ(str(fresh.first_day, fresh.weeks, fresh.peak_cash, fresh.peak_cash_date),
               str(kStartDate, 0, 5000, kStartDate));
+}
+
+/// A finished career's summary with only the figures that rank it.
+FameEntry ranked(const char* band, Long weeks, int place, Long cash) {
+    FameEntry e;
+    e.summary.band = band, e.summary.weeks = weeks, e.summary.peak_cash = cash;
+    e.summary.tally.best_place = static_cast<Integer>(place);
+    return e;
+}
+
+std::string bands(const std::vector<FameEntry>& hall) {
+    std::string out;
+    for (const FameEntry& e : hall) out += e.summary.band + ";";
+    return out;
+}
+
+// Longest first; then the best chart place, never charting last; then the most cash; equals
+// in the order they came in. What is written reads back the same, and anything damaged, cut
+// short or foreign reads as an empty hall.
+TEST_F(Career, HallReadsBestFirstAndDamagedOrMissingIsEmpty) {
+    EXPECT_TRUE(read_hall(files).empty());
+    std::vector<FameEntry> hall{ranked("A", 10, 0, 900), ranked("B", 10, 5, 100),
+                                ranked("C", 12, 0, 0),   ranked("D", 10, 5, 200),
+                                ranked("E", 10, 70, 0),  ranked("F", 10, 5, 200)};
+    hall[1].diary = {{kStartDate, "Dave", "Hello"}};
+    hall[1].segments = {{kStartDate, 3000, 0, 0}};
+    hall[1].history = {{kStartDate + 7, 2990, 5, 0}};
+    hall[1].summary.tally.best_gig.venue = "Town Hall";
+    hall[1].summary.bankrupt = true;
+    const Bytes bytes = hall_bytes(hall);
+    EXPECT_EQ(parse_hall(bytes), hall);
+    EXPECT_EQ(hall_bytes({}).size(), 12u);
+    files.files[hall_file()] = bytes;
+    EXPECT_EQ(bands(read_hall(files)), "C;D;F;B;E;A;");
+
+    std::vector<Bytes> bad{{bytes.begin(), bytes.end() - 1}, bytes, bytes, bytes, bytes};
+    bad[1].push_back(0);  // a byte too many
+    bad[2][7] = 2;        // a kind of file not known
+    bad[3][8] = 7;        // more careers than written
+    bad[4][12 + 55] = 2;  // "A" went bankrupt: neither yes nor no
+
+    for (std::size_t k = 0; k < bad.size(); ++k) {
+        EXPECT_FALSE(parse_hall(bad[k])) << k;
+        files.files[hall_file()] = bad[k];
+        EXPECT_TRUE(read_hall(files).empty()) << k;
+    }
+}
+
+// The career goes in once however often the end is reported, only once the game has ended,
+// among the best fifty; a damaged hall gives way to one holding this career.
+TEST_F(Career, FinishedCareerEntersTheHallOnceAmongTheBest) {
+    new_game();
+    command6(g);
+    EXPECT_FALSE(add_to_hall(g));
+    EXPECT_FALSE(files.files.count(hall_file()));
+    go_bankrupt();
+    const FameEntry mine{career_summary(g), g.diary, g.history, g.segments};
+    EXPECT_EQ(mine.summary.weeks, 2);
+    files.files[hall_file()] = {'T', 'V', 'F', 'A', 'M', 'E'};
+    EXPECT_TRUE(add_to_hall(g));
+    EXPECT_TRUE(add_to_hall(g));
+    EXPECT_EQ(read_hall(files), std::vector<FameEntry>{mine});
+
+    // Fifty better careers keep it out and the file as it was; one worse than it makes room.
+    std::vector<FameEntry> full(kHallPlaces, ranked("Better", 3, 0, 0));
+    files.files[hall_file()] = hall_bytes(full);
+    EXPECT_FALSE(add_to_hall(g));
+    EXPECT_EQ(files.files[hall_file()], hall_bytes(full));
+    full.back() = ranked("Worse", 1, 0, 0);
+    files.files[hall_file()] = hall_bytes(full);
+    EXPECT_TRUE(add_to_hall(g));
+    const std::vector<FameEntry> now = read_hall(files);
+    EXPECT_EQ(str(now.size(), now.back() == mine), "50 1");
+    EXPECT_EQ(bands(now).find("Worse"), std::string::npos);
 }
 
 // The history beside a save keeps the tally and brings it back; a history of the first kind,
