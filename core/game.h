@@ -98,6 +98,9 @@ struct Game {
     /// The career's hires, losses, demos, gigs and best chart place; a load brings back the
     /// loaded career's.
     CareerTally tally;
+
+    /// NEW GAME or a load has opened the office: a career is being played.
+    bool career_begun = false;
 };
 
 }  // namespace tourvane

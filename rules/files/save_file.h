@@ -44,6 +44,9 @@ bool read_save(const std::filesystem::path& path, Module1& rec, FilePort& files 
 /// or that the slot is empty, or that its file can't be loaded. Changes nothing.
 std::string slot_details(FilePort& files, int slot);
 
+/// The band, game date and cash of a saved game, as the slots tell them apart.
+std::string save_details(const Module1& game);
+
 /// The band name in the first record of a save file; empty for a missing or damaged file.
 std::string read_slot_name(FilePort& files, const std::filesystem::path& path);
 

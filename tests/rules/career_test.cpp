@@ -1,7 +1,9 @@
-// A career seen whole: the tally kept as it is played and beside each save, the summary of a
-// career that ends, and the hall of fame that keeps finished careers.
+// A career seen whole: the tally kept as it is played, the summary of a career that ends, the
+// hall of fame that keeps finished careers, and the automatic save that keeps a running one
+// from one run to the next.
 
 #include "core/career.h"
+#include "flow/career.h"
 #include "rules/band/roster.h"
 #include "rules/band/training.h"
 #include "rules/files/hall_of_fame.h"
@@ -260,6 +262,80 @@ TEST_F(Career, HistoryKeepsTheTallyAndReadsTheFirstKind) {
     EXPECT_EQ(str(old->diary == g.diary, old->tally == CareerTally{}), "1 1");
     first[7] = 2;  // the same bytes as the present kind lack the tally
     EXPECT_FALSE(parse_history(first, save_mark(save)));
+}
+
+// Quitting the office keeps the running career in the automatic save, the same bytes a slot
+// would hold; the next start offers it and carries on with it as a load does. EXIT with no
+// career leaves it alone; the end of the game puts the career in the hall and removes it.
+TEST_F(Career, AutomaticSaveKeptOnQuitOfferedAndCarriedOn) {
+    files.files[autosave_file()] = {1, 2, 3};
+    port.queue_input("The Wasps");  // a band name, but no boss: no career begun
+    click(g, "Form1", "New");
+    click(g, "Form1", "Label4");
+    EXPECT_FALSE(keep_running_career(g));
+    EXPECT_EQ(files.files[autosave_file()], (Bytes{1, 2, 3}));
+    EXPECT_EQ(autosaved_career(files).state, AutosavedCareer::State::Damaged);
+
+    TestGame t;
+    t.g.files = &files;
+    t.new_game();
+    t.full_band();
+    listupdate(t.g);  // as hiring them would
+    t.week_start(), t.week_end(false);
+    command6(t.g);
+    t.ok_memos();
+    t.g.tally.demos = 2;
+    t.yes();
+    click(t.g, "main", "exitbtn");
+    ASSERT_TRUE(t.g.ended);
+    EXPECT_TRUE(keep_running_career(t.g));
+    const Bytes save = save_bytes(t.r);
+    EXPECT_EQ(files.files[autosave_file()], save);
+    EXPECT_EQ(files.files[autosave_history_file()], history_bytes(t.g, save_mark(save)));
+    const AutosavedCareer offer = autosaved_career(files);
+    EXPECT_EQ(str(int(offer.state), offer.text), "1 The Wasps, 08/09/2001, £ 2996");
+
+    TestGame u;
+    u.g.files = &files;
+    ASSERT_TRUE(carry_on(u.g));
+    EXPECT_EQ(save_bytes(u.r), save);
+    EXPECT_EQ(
+        str(u.g.forms.Form1.loaded, u.g.forms.main.visible, u.g.diary.back().text, u.g.diary.size(),
+            u.g.history == t.g.history, u.g.segments.size(), u.g.tally == t.g.tally),
+        str(0, 1, "Game Loaded", t.g.diary.size() + 1, 1, 2, 1));
+    EXPECT_EQ(files.files[autosave_file()], save);  // kept until the program next ends
+
+    // The end of the game: into the hall, and no automatic save left to carry on with.
+    u.full_band();
+    u.r.cash = -1;
+    u.no();
+    command6(u.g);
+    ASSERT_TRUE(u.g.game_over);
+    u.ok_memos();
+    EXPECT_FALSE(keep_running_career(u.g));
+    EXPECT_EQ(str(files.files.count(autosave_file()), files.files.count(autosave_history_file()),
+                  read_hall(files).size()),
+              "0 0 1");
+    EXPECT_EQ(autosaved_career(files).state, AutosavedCareer::State::None);
+}
+
+// A damaged automatic save is refused with a critical box: the title stays, the running game
+// is as it was and the file is left alone.
+TEST_F(Career, DamagedAutomaticSaveIsRefusedAndLeftAlone) {
+    for (const Bytes& damaged : {Bytes{}, Bytes(300, 0xff), Bytes(kSaveBytes, 0)}) {
+        TestGame t;
+        t.g.files = &files;
+        files.files[autosave_file()] = damaged;
+        const Module1 before = t.r;
+        EXPECT_FALSE(carry_on(t.g));
+        EXPECT_EQ(t.take(), Lines{okbox(kDamagedAutosave, true)});
+        EXPECT_EQ(str(t.r == before, t.g.forms.Form1.visible, t.g.forms.main.visible,
+                      files.files[autosave_file()] == damaged),
+                  "1 1 0 1");
+    }
+    files.files.clear();
+    EXPECT_FALSE(carry_on(g));
+    EXPECT_EQ(take(), Lines{okbox("There is no automatic save to carry on with.", true)});
 }
 
 }  // namespace
