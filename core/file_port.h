@@ -3,9 +3,11 @@
 // files and bands.dat. The game and the script driver keep them on the disk; a fuzz target
 // can keep them in memory.
 
+#include <algorithm>
 #include <cstddef>
 #include <cstdint>
 #include <filesystem>
+#include <map>
 #include <optional>
 #include <span>
 #include <string>
@@ -29,6 +31,26 @@ class FilePort {
 
     /// Removes the file, if there is one.
     virtual void remove(const std::filesystem::path& path) = 0;
+};
+
+/// The files held in memory instead of on the disk, for the fuzz targets and the tests.
+class MemoryFiles : public FilePort {
+  public:
+    std::map<std::filesystem::path, std::vector<std::uint8_t>> files;
+
+    std::optional<std::vector<std::uint8_t>> read(const std::filesystem::path& path,
+                                                  std::size_t limit) override {
+        const auto it = files.find(path);
+        if (it == files.end()) return std::nullopt;
+        const std::size_t n = std::min(limit, it->second.size());
+        return std::vector<std::uint8_t>(it->second.begin(), it->second.begin() + n);
+    }
+    bool replace(const std::filesystem::path& path, std::span<const std::uint8_t> bytes,
+                 std::string&) override {
+        files[path].assign(bytes.begin(), bytes.end());
+        return true;
+    }
+    void remove(const std::filesystem::path& path) override { files.erase(path); }
 };
 
 /// The disk, paths taken from the working directory: read_file, replace_file and remove.

@@ -26,6 +26,7 @@ struct DiaryEntry {
     Date date = 0;  ///< the game date when it was shown
     std::string from;
     std::string text;
+    bool operator==(const DiaryEntry&) const = default;
 };
 
 /// Cash and popularity at one moment of the run.
@@ -34,6 +35,30 @@ struct WeekSample {
     Long cash = 0;
     Integer popularity = 0;
     int segment = 0;  ///< the stretch of play: 0 from start-up, one more after each load
+    bool operator==(const WeekSample&) const = default;
+};
+
+/// A gig as a career remembers it.
+struct GigNote {
+    Date date = 0;
+    std::string venue;
+    Integer attendance = 0;
+    Integer profit = 0;
+    Integer score = 0;
+    bool operator==(const GigNote&) const = default;
+};
+
+/// What a career has done that neither its record nor its weeks keep, counted as it happens.
+struct CareerTally {
+    Long hired = 0;
+    Long lost = 0;  ///< walk-outs and sackings
+    Long demos = 0;
+    Long gigs = 0;
+    GigNote best_gig;        ///< the highest score, the earliest of equals; none while gigs is 0
+    Integer best_place = 0;  ///< the best chart place of a single, 1 to 70; 0 for never
+    std::string best_song;   ///< that single's title
+    Date best_place_date = 0;
+    bool operator==(const CareerTally&) const = default;
 };
 
 struct Game {
@@ -73,6 +98,13 @@ struct Game {
     /// Where the current stretch of play begins in `diary`: 0, or the loaded career's diary
     /// length at the latest load.
     std::size_t diary_at_load = 0;
+
+    /// The career's hires, losses, demos, gigs and best chart place; a load brings back the
+    /// loaded career's.
+    CareerTally tally;
+
+    /// NEW GAME or a load has opened the office: a career is being played.
+    bool career_begun = false;
 };
 
 }  // namespace tourvane

@@ -81,6 +81,7 @@ void Form1_New(Game& g) {
     listupdate(g);
     g.forms.main.visible = true;
     g.forms.Form1.visible = false;
+    g.career_begun = true;
 }
 
 void Form1_Label4(Game& g) {

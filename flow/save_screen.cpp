@@ -86,20 +86,19 @@ void savefrm_save(Game& g) {
     MsgBox(g, "Game Saved");
 }
 
-void savefrm_load(Game& g) {
-    const int slot = chosen_slot(g.forms.savefrm);
-    if (slot < 0) return;
-    if (!read_save(slot_file(slot), g.rec, *g.files)) {
-        MsgBox(g, "This file is not valid or does not exist.", Buttons::Ok, true);
-        return;
-    }
-    // The career's diary and weeks come back with it; a game saved with none starts afresh.
-    CareerHistory career = read_history(*g.files, slot, g.rec);
+bool resume_career(Game& g, const std::filesystem::path& save,
+                   const std::filesystem::path& history) {
+    if (!read_save(save, g.rec, *g.files)) return false;
+    // The career's diary, weeks and tally come back with it; a game saved with none starts
+    // afresh.
+    CareerHistory career = read_history(*g.files, history, g.rec);
     g.diary = std::move(career.diary);
     g.history = std::move(career.history);
     g.segments = std::move(career.segments);
     g.diary_at_load = g.diary.size();
+    g.tally = std::move(career.tally);
     ++g.history_loads;
+    g.career_begun = true;
     begin_segment(g);
     unload(g.forms.Form1);
     update(g);
@@ -108,6 +107,14 @@ void savefrm_load(Game& g) {
     unload_savefrm(g);
     updatesonglist(g);
     MsgBox(g, "Game Loaded");
+    return true;
+}
+
+void savefrm_load(Game& g) {
+    const int slot = chosen_slot(g.forms.savefrm);
+    if (slot < 0) return;
+    if (!resume_career(g, slot_file(slot), history_file(slot)))
+        MsgBox(g, "This file is not valid or does not exist.", Buttons::Ok, true);
 }
 
 void savefrm_back(Game& g) {

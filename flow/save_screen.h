@@ -2,6 +2,8 @@
 // The save and load screen `savefrm`: four slots, Save and Load from the office, Load alone
 // from the title screen.
 
+#include <filesystem>
+
 #include "core/game.h"
 
 namespace tourvane {
@@ -29,6 +31,12 @@ void savefrm_save(Game& g);
 /// Load: resumes the game in the chosen slot, closing the title screen, and says "Game
 /// Loaded". A slot with no valid save is refused and the running game stays as it was.
 void savefrm_load(Game& g);
+
+/// Takes the game saved at `save`, with the history beside it at `history`, in place of the
+/// running one and opens the office on it, closing the title screen: "Game Loaded". False,
+/// with the running game as it was and nothing shown, when the file holds no valid save.
+bool resume_career(Game& g, const std::filesystem::path& save,
+                   const std::filesystem::path& history);
 
 /// BACK: hides the screen; it keeps its chosen slot and layout for the next opening.
 void savefrm_back(Game& g);

@@ -1,5 +1,6 @@
 #include "rules/band/applicants.h"
 
+#include "core/career.h"
 #include "core/ui.h"
 #include "rules/band/roster.h"
 
@@ -89,6 +90,7 @@ void hire(Game& g) {
         r.memberage[slot] = a.applicantage;
         r.memberhappy[slot] = 10;
         r.memberfriction[slot] = 0;
+        note_hire(g);
     }
     add(g.main.applicantsseen, 1);
     listupdate(g);

@@ -1,5 +1,6 @@
 #include "rules/band/roster.h"
 
+#include "core/career.h"
 #include "core/ui.h"
 #include "rules/band/applicants.h"
 
@@ -90,6 +91,7 @@ void delete_member(Game& g) {
     Module1& r = g.rec;
     const int s = g.main.selectedmember;
     if (in_bounds(r.membername, s)) {
+        if (is_member_slot(s) && !is_vacant(r, s)) note_loss(g);
         const std::int64_t sum = std::int64_t{r.memberlooks[s]} + r.membertalent[s] +
                                  r.membercharisma[s] + r.membercreativity[s];
         add(r.popularity, -2 * sum);

@@ -162,7 +162,11 @@ std::string slot_details(FilePort& files, int slot) {
     // Read over an empty record rather than a copy of the running one: only saved fields show.
     const std::optional<Module1> game = parse_save(*bytes, Module1{});
     if (!game) return std::string(kDamagedSlot);
-    return game->bandname + ", " + format_date(game->gamedate) + ", " + format_cash(game->cash);
+    return save_details(*game);
+}
+
+std::string save_details(const Module1& game) {
+    return game.bandname + ", " + format_date(game.gamedate) + ", " + format_cash(game.cash);
 }
 
 std::string read_slot_name(FilePort& files, const std::filesystem::path& path) {

@@ -49,6 +49,9 @@ inline constexpr std::string_view kDamagedSlot = "This file is damaged and canno
 /// or that the slot is empty, or that its file can't be loaded. Changes nothing.
 std::string slot_details(FilePort& files, int slot);
 
+/// The band, game date and cash of a saved game, as the slots tell them apart.
+std::string save_details(const Module1& game);
+
 /// The band name in the first record of a save file; empty for a missing or damaged file.
 std::string read_slot_name(FilePort& files, const std::filesystem::path& path);
 

@@ -1,5 +1,6 @@
 #include "rules/gigs/performance.h"
 
+#include "core/career.h"
 #include "core/forms.h"
 #include "core/ui.h"
 #include "rules/gigs/booking.h"
@@ -87,6 +88,7 @@ void gig_command4(Game& g) {
     store(r.gigprofit, takings);
     add(r.cash, -std::int64_t{r.hirecost});
     add(r.gigprofit, -std::int64_t{r.hirecost});
+    note_gig(g, venue);
 
     gig_command3(g);  // the set list is emptied just as CLEAR LIST empties it
 

@@ -1,5 +1,10 @@
 #include "rules/music/chart.h"
 
+#include <algorithm>
+#include <array>
+#include <limits>
+
+#include "core/career.h"
 #include "core/forms.h"
 
 namespace tourvane {
@@ -57,18 +62,57 @@ void chart_step(Game& g) {
     }
 }
 
-void rank_chart(Game& g) {
-    Module1& r = g.rec;
-    for (int i = 1; i <= kChartRows; ++i) r.chartplace[i] = kChartRows;
-    for (int i = 1; i <= kChartRows; ++i) {
+void rank_rows(Arr<Long, kChartRows>& sales, Arr<Integer, kChartRows>& place, int last) {
+    // Rows 1 to 70 and two more of the highest sales there can be, which no row outsells: the
+    // count of rows below a row then runs in whole steps of the processor's vectors.
+    std::array<Long, kChartRows + 2> padded;
+    padded.fill(std::numeric_limits<Long>::max());
+    std::copy(sales.begin() + 1, sales.end(), padded.begin());
+    for (int i = 1; i <= last; ++i) {
+        // A row that ties with no other is placed by the rows it outsells, and its sales stay.
+        // (A row of the highest sales ties with the two extra ones and goes the long way.)
+        const Long own = sales[i];
+        int below = 0, equal = 0;
+        for (const Long s : padded) below += s < own, equal += s == own;
+        if (equal == 1) {
+            place[i] = static_cast<Integer>(kChartRows - below);
+            continue;
+        }
+        place[i] = kChartRows;
         for (int j = 1; j <= kChartRows; ++j) {
             if (j == i) continue;
             // A tie goes to the row of the outer loop: its sales rise by 1 and it then
             // outsells the other row.
-            if (r.chartsales[i] == r.chartsales[j]) add(r.chartsales[i], 1);
-            if (r.chartsales[i] > r.chartsales[j]) add(r.chartplace[i], -1);
+            if (sales[i] == sales[j]) add(sales[i], 1);
+            if (sales[i] > sales[j]) add(place[i], -1);
         }
+        padded[i - 1] = sales[i];
     }
+}
+
+void rank_chart(Game& g) {
+    rank_rows(g.rec.chartsales, g.rec.chartplace);
+}
+
+namespace {
+/// A single of the band's that is on the chart: out, written by the singles phase, and sold.
+/// (Row 20 is a rival row as much as the last song's, and counts as a rival's.)
+bool band_single_charts(const Module1& r, int row) {
+    return is_true(r.released[row]) && !r.charttitle[row].empty() && r.chartsales[row] > 0;
+}
+}  // namespace
+
+void tally_chart_place(Game& g) {
+    const Module1& r = g.rec;
+    int last = 0;
+    for (int row = 1; row < kFirstRivalRow; ++row)
+        if (band_single_charts(r, row)) last = row;
+    if (last == 0) return;
+    Arr<Long, kChartRows> sales = r.chartsales;  // the ranking's +1s stay in the copy
+    Arr<Integer, kChartRows> place{};
+    rank_rows(sales, place, last);
+    for (int row = 1; row <= last; ++row)
+        if (band_single_charts(r, row)) note_chart_place(g, place[row], r.charttitle[row]);
 }
 
 void load_Chart(Game& g) {

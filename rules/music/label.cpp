@@ -1,5 +1,6 @@
 #include "rules/music/label.h"
 
+#include "core/career.h"
 #include "core/ui.h"
 
 namespace tourvane {
@@ -34,6 +35,7 @@ void command3(Game& g) {
         return;
     }
     g.main.demosent = kTrue;
+    note_demo(g);
     message(g, "We have sent a demo to the record company", "Dave");
 }
 

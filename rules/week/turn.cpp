@@ -152,6 +152,7 @@ void command6(Game& g) {
     // A new game's first stretch of play starts where its first week did.
     if (g.segments.empty()) g.segments.push_back(before);
     g.history.push_back(week_sample(g, static_cast<int>(g.segments.size()) - 1));
+    tally_chart_place(g);
 }
 
 }  // namespace tourvane

@@ -1,12 +1,10 @@
 #pragma once
-// What the fuzz targets share: files kept in memory, so that no input waits for the disk; the
-// title screen of a run started beside a saved game; and a check that stops the run with a
-// message when a property fails.
+// What the fuzz targets share: the game's files kept in memory (MemoryFiles), so that no input
+// waits for the disk; the title screen of a run started beside a saved game; and a check that
+// stops the run with a message when a property fails.
 
-#include <algorithm>
 #include <cstdio>
 #include <cstdlib>
-#include <map>
 
 #include "core/scripted_port.h"
 #include "flow/clicks.h"
@@ -23,26 +21,6 @@
     } while (0)
 
 namespace tourvane::fuzz {
-
-/// The game's files held in memory instead of on the disk.
-class MemoryFiles : public FilePort {
-  public:
-    std::map<std::filesystem::path, std::vector<std::uint8_t>> files;
-
-    std::optional<std::vector<std::uint8_t>> read(const std::filesystem::path& path,
-                                                  std::size_t limit) override {
-        const auto it = files.find(path);
-        if (it == files.end()) return std::nullopt;
-        const std::size_t n = std::min(limit, it->second.size());
-        return std::vector<std::uint8_t>(it->second.begin(), it->second.begin() + n);
-    }
-    bool replace(const std::filesystem::path& path, std::span<const std::uint8_t> bytes,
-                 std::string&) override {
-        files[path].assign(bytes.begin(), bytes.end());
-        return true;
-    }
-    void remove(const std::filesystem::path& path) override { files.erase(path); }
-};
 
 /// The files of the started game below.
 inline MemoryFiles& started_files() {

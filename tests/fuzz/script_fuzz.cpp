@@ -13,7 +13,7 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
     using namespace tourvane;
     // One session for every input, begun again after each: a new one would build its whole
     // game anew. The files go too, so that no input loads what an earlier one saved.
-    static fuzz::MemoryFiles files;
+    static MemoryFiles files;
     static std::ostream out(nullptr);  // swallows the transcript
     static driver::Session session(out, 1, files);
 

@@ -296,14 +296,17 @@ TEST_F(Saves, ALoadStartsANewStretchAndADamagedOrForeignHistoryIsLeftOut) {
     EXPECT_TRUE(has(samples("history", g.history, {{7, 3000, -1, 0}, {14, 3000, -1, 1}})));
 
     // Damaged, cut short, foreign, another save's, or missing: the load works, with no history.
+    // The weeks end 48 bytes before the file does, where an empty tally begins.
     const auto good = read_file(history_file(0), 1 << 20).value();
+    const std::size_t weeks_end = good.size() - 48;
     std::vector<Bytes> bad{{good.begin(), good.end() - 1},
                            {'M', 'Z', 0, 0},
                            read_file(history_file(1), 1 << 20).value()};
-    bad.push_back(good), bad.back()[19] ^= 0x40;              // a diary longer than the file
-    bad.push_back(good), bad.back()[good.size() - 4] = 0x7f;  // a stretch out of order
-    bad.push_back(good), bad.back()[good.size() - 26] = 1;    // a week of a stretch not there
-    bad.push_back({});                                        // none
+    bad.push_back(good), bad.back()[19] ^= 0x40;             // a diary longer than the file
+    bad.push_back(good), bad.back()[weeks_end - 4] = 0x7f;   // a stretch out of order
+    bad.push_back(good), bad.back()[weeks_end - 26] = 1;     // a week of a stretch not there
+    bad.push_back(good), bad.back()[good.size() - 14] = 71;  // a chart place past the last row
+    bad.push_back({});                                       // none
     for (std::size_t k = 0; k < bad.size(); ++k) {
         std::string why;
         ASSERT_TRUE(bad[k].empty() ? std::filesystem::remove(history_file(0))
