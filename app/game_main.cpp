@@ -2,9 +2,14 @@
 
 #include <QApplication>
 #include <QIcon>
+#include <QSocketNotifier>
 #include <QStyleFactory>
+#include <csignal>
 #include <future>
 #include <memory>
+
+#include <sys/socket.h>
+#include <unistd.h>
 
 #include "app/command_line.h"
 #include "app/qt/game_windows.h"
@@ -13,6 +18,27 @@
 #include "app/startup_probe.h"
 #include "core/game.h"
 #include "flow/office.h"
+
+namespace {
+
+/// The two ends of the line by which a signal asks the event loop to stop.
+int signal_line[2] = {-1, -1};
+
+void on_signal(int) {
+    const char stop = 1;
+    [[maybe_unused]] const auto written = ::write(signal_line[0], &stop, 1);
+}
+
+/// A terminating signal (the session ending, kill, Ctrl+C in a terminal) ends the program as
+/// its own quit does, so that the running career is kept on the way out.
+void quit_on_signals(QApplication& app) {
+    if (::socketpair(AF_UNIX, SOCK_STREAM, 0, signal_line) != 0) return;
+    auto* notifier = new QSocketNotifier(signal_line[1], QSocketNotifier::Read, &app);
+    QObject::connect(notifier, &QSocketNotifier::activated, &app, &QApplication::quit);
+    for (int sig : {SIGTERM, SIGINT, SIGHUP}) std::signal(sig, on_signal);
+}
+
+}  // namespace
 
 int main(int argc, char** argv) {
     // --help, --version and every mistake are answered before a display is needed.
@@ -42,5 +68,8 @@ int main(int argc, char** argv) {
     if (options.measure_startup)
         probe = std::make_unique<tourvane::StartupProbe>(windows.view("Form1"));
     windows.refresh();
-    return QApplication::exec();
+    quit_on_signals(app);
+    const int status = QApplication::exec();
+    windows.program_ending();
+    return status;
 }

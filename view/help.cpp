@@ -25,6 +25,8 @@ std::string section_title(std::string_view where) {
     if (where == place::kDiary) return "In the diary";
     if (where == place::kGraph) return "In the week graph";
     if (where == place::kHelp) return "In this list";
+    if (where == place::kSummary) return "In a career's summary";
+    if (where == place::kHall) return "In the hall of fame";
     return "In every window";
 }
 

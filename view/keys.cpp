@@ -24,6 +24,9 @@ constexpr std::array kBindings{
     KeyBinding{"main", "F1", OpenHelp, {}, "Show how to play, every key and what Tourvane is"},
     KeyBinding{"Form1", "N", Click, "New", "Start a new game"},
     KeyBinding{"Form1", "L", Click, "load", "Load a saved game"},
+    KeyBinding{
+        "Form1", "C", CarryOn, {}, "Carry on with the career kept when Tourvane last closed"},
+    KeyBinding{"Form1", "H", OpenHall, {}, "Open the hall of fame of careers that have ended"},
     KeyBinding{"messageForm", "Esc", Click, "command1", "OK: the memo is read"},
     KeyBinding{"gig", "Esc", Click, "Command2", "Back to the office"},
     KeyBinding{"thenewspaper", "Esc", Click, "Label2", "OK: back to the office"},
@@ -41,6 +44,8 @@ constexpr std::array kBindings{
     KeyBinding{place::kGraph, "End", LatestWeek, {}, "The latest week"},
     KeyBinding{place::kGraph, "Esc", Close, {}, "Close the graph"},
     KeyBinding{place::kHelp, "Esc", Close, {}, "Close this list"},
+    KeyBinding{place::kSummary, "Esc", Close, {}, "Close the career's summary"},
+    KeyBinding{place::kHall, "Esc", Close, {}, "Close the hall of fame"},
     KeyBinding{place::kEverywhere,
                "Ctrl+Q",
                Quit,
@@ -85,6 +90,18 @@ const KeyBinding* find_key(std::string_view where, std::string_view key) {
 std::string_view key_of(std::string_view form, std::string_view control) {
     for (const KeyBinding& b : kBindings)
         if (b.action == Click && b.where == form && b.control == control) return b.key;
+    return {};
+}
+
+std::string_view key_for(std::string_view where, KeyAction action) {
+    for (const KeyBinding& b : kBindings) {
+        if (b.action != action || b.where != where) continue;
+        std::string_view first;
+        each_key(b.key, [&](std::string_view k) {
+            if (first.empty()) first = k;
+        });
+        return first;
+    }
     return {};
 }
 

@@ -16,6 +16,8 @@ namespace place {
 inline constexpr std::string_view kDiary = "diary";
 inline constexpr std::string_view kGraph = "graph";
 inline constexpr std::string_view kHelp = "help";
+inline constexpr std::string_view kSummary = "summary";
+inline constexpr std::string_view kHall = "hall";
 inline constexpr std::string_view kEverywhere = "";
 }  // namespace place
 
@@ -24,6 +26,8 @@ enum class KeyAction {
     OpenDiary,     ///< opens the diary beside the office
     OpenGraph,     ///< opens the week graph beside the office
     OpenHelp,      ///< opens the key help beside the office
+    OpenHall,      ///< opens the hall of fame beside the title screen
+    CarryOn,       ///< carries on with the career the automatic save kept
     Close,         ///< closes the window beside the office
     Quit,          ///< quits as the window's own quit does (see quit_control)
     ChooseSender,  ///< the diary's sender filter takes the keys
@@ -55,6 +59,9 @@ const KeyBinding* find_key(std::string_view where, std::string_view key);
 
 /// The key that clicks the control `control` of `form`, or empty.
 std::string_view key_of(std::string_view form, std::string_view control);
+
+/// The (first) key that does `action` where it is pressed, or empty.
+std::string_view key_for(std::string_view where, KeyAction action);
 
 /// The keys of one row one by one: "Alt+S, Ctrl+F" gives "Alt+S" then "Ctrl+F".
 template <class F>

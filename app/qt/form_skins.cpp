@@ -83,6 +83,14 @@ QPushButton[kind="click"]:hover { background: #f0b650; color: #1a1018; }
 QPushButton[kind="click"]:pressed { background: #c9973f; color: #1a1018; }
 QPushButton[kind="click"]:focus { border: 1px solid #fff0c8; }
 QPushButton[kind="click"]:disabled { color: #6d665c; }
+QFrame#offer {
+    background: rgba(20, 14, 24, 228); border: 1px solid rgba(201, 151, 63, 170);
+    border-radius: 6px;
+}
+QLabel#offerline { background: transparent; color: #f5e6c8; font-size: 13px; }
+QLabel#hallhint {
+    background: rgba(20, 14, 24, 200); color: #f5e6c8; font-size: 12px; border-radius: 4px;
+}
 )";
     return s;
 }

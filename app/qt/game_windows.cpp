@@ -2,6 +2,10 @@
 
 #include <QApplication>
 #include <QEvent>
+#include <QFrame>
+#include <QHBoxLayout>
+#include <QLabel>
+#include <QPushButton>
 #include <QScreen>
 #include <QShortcut>
 #include <algorithm>
@@ -10,7 +14,10 @@
 #include "app/qt/pictures.h"
 #include "app/qt/qt_port.h"
 #include "app/qt/shortcuts.h"
+#include "app/qt/text.h"
+#include "flow/career.h"
 #include "flow/clicks.h"
+#include "view/career.h"
 
 namespace tourvane {
 
@@ -51,11 +58,27 @@ QPoint keep_on_screen(QRect r, const QRect& screen) {
     return r.topLeft();
 }
 
+/// Where the offer to carry on stands over the title screen: under its three choices.
+const QRect kOfferPlace(40, 372, 556, 84);
+const QRect kHintPlace(40, 466, 556, 24);
+
 /// Puts a window in front and gives it the keys (headless platforms have no stacking order).
 void bring_forward(QWidget* window) {
     const QString platform = QGuiApplication::platformName();
     if (platform != "offscreen" && platform != "minimal") window->raise();
     window->activateWindow();
+}
+
+/// Shows `window` beside `anchor`, right of it where the screen has room, else left of it.
+void show_beside(QWidget& window, const QWidget& anchor) {
+    const QRect screen = screen_area(&anchor);
+    QRect frame(QPoint(0, 0), window.size());
+    frame.moveTopLeft(anchor.frameGeometry().topRight() + QPoint(kGap, 0));
+    if (frame.right() > screen.right())
+        frame.moveTopRight(anchor.frameGeometry().topLeft() - QPoint(kGap, 0));
+    window.move(keep_on_screen(frame, screen));
+    window.show();
+    bring_forward(&window);
 }
 
 }  // namespace
@@ -94,7 +117,77 @@ FormView* GameWindows::build(Screen& screen) {
               static_cast<QWidget*>(&side_->keys())})
             quit_key_for(*window);
     }
+    if (screen.form == &g_.forms.Form1) build_offer(*view);
     return view;
+}
+
+void GameWindows::build_offer(FormView& title) {
+    bind_keys(title, "Form1", {KeyAction::OpenHall, KeyAction::CarryOn},
+              [this](const KeyBinding& b) {
+                  if (!g_.forms.Form1.usable() || ended_) return;
+                  if (b.action == KeyAction::CarryOn)
+                      carry_on_career();
+                  else
+                      show_beside(hall(), *view("Form1"));
+              });
+    auto* hint = new QLabel(qs(hall_hint()), &title);
+    hint->setObjectName("hallhint");
+    hint->setGeometry(kHintPlace);
+    hint->setAlignment(Qt::AlignCenter);
+    hint->show();
+    const std::string offer = tourvane::carry_on_offer(autosaved_career(*g_.files));
+    if (offer.empty()) return;
+    offer_ = new QFrame(&title);
+    offer_->setObjectName("offer");
+    offer_->setGeometry(kOfferPlace);
+    auto* line = new QLabel(qs(offer), offer_);
+    line->setObjectName("offerline");
+    line->setWordWrap(true);
+    line->setTextFormat(Qt::PlainText);
+    auto* layout = new QHBoxLayout(offer_);
+    layout->addWidget(line, 1);
+    if (autosaved_career(*g_.files).state == AutosavedCareer::State::Ready) {
+        auto* button = new QPushButton(qs(kCarryOn), offer_);
+        button->setProperty("kind", "click");
+        button->setAccessibleName(qs(kCarryOn));
+        button->setAccessibleDescription(qs(offer));
+        button->setMinimumWidth(110);
+        connect(button, &QPushButton::clicked, this, [this] { carry_on_career(); });
+        layout->addWidget(button);
+    }
+    line->setAccessibleName(qs(offer));
+    offer_->show();
+}
+
+void GameWindows::carry_on_career() {
+    if (!g_.forms.Form1.usable() || ended_) return;
+    carry_on(g_);
+    refresh();
+}
+
+HallWindow& GameWindows::hall() {
+    if (!hall_) {
+        hall_ = std::make_unique<HallWindow>(*g_.files);
+        hall_->setWindowIcon(QApplication::windowIcon());
+        quit_key_for(*hall_);
+    }
+    return *hall_;
+}
+
+void GameWindows::summarise() {
+    add_to_hall(g_);
+    summary_ = std::make_unique<SummaryWindow>();
+    summary_->show_summary(career_summary(g_));
+    if (FormView* memo = built("messageForm")) {
+        show_beside(*summary_, *memo);
+        bring_forward(memo);  // the memo keeps the keys: its OK ends the program
+    }
+}
+
+void GameWindows::program_ending() {
+    if (kept_) return;
+    kept_ = true;
+    keep_running_career(g_);
 }
 
 void GameWindows::quit_key_for(QWidget& window) {
@@ -134,11 +227,16 @@ void GameWindows::forward(FormView* view, const Control* control, int index, boo
     else
         click(g_, form, control->name, index);
     refresh();
+    if (g_.game_over && !summary_) summarise();
     if (g_.ended && !ended_) {
         ended_ = true;
+        program_ending();
         for (Screen& s : screens_)
             if (s.view) s.view->hide();
         if (side_) side_->close_all();
+        for (QWidget* w :
+             {static_cast<QWidget*>(summary_.get()), static_cast<QWidget*>(hall_.get())})
+            if (w) w->hide();
         emit ended();
     }
 }
@@ -160,6 +258,7 @@ void GameWindows::refresh() {
     for (const FormState* form : changes.closed) view(form->name)->hide();
     for (const FormState* form : changes.opened) show_view(view(form->name));
     if (changes.front) bring_forward(view(changes.front->name));
+    if (offer_ && !g_.forms.Form1.visible) offer_->hide();
     if (FormView* memo = built("messageForm"); memo && memo->isVisible())
         announce_memo(*memo);
     else

@@ -11,6 +11,7 @@
 #include <string_view>
 #include <vector>
 
+#include "app/qt/career_windows.h"
 #include "app/qt/form_view.h"
 #include "app/qt/pictures.h"
 #include "app/qt/side_windows.h"
@@ -40,6 +41,16 @@ class GameWindows : public QObject {
 
     /// What the quit key does in any window: clicks the quit control the game names.
     void quit();
+
+    /// The program is ending, by whatever path: keeps a running career in the automatic save
+    /// (or a finished one in the hall of fame), once.
+    void program_ending();
+
+    /// The title screen's offer to carry on with the career the automatic save kept: its line
+    /// and its button (hidden when there is nothing to offer).
+    QWidget* carry_on_offer() const { return offer_; }
+    HallWindow& hall();
+    SummaryWindow* summary() const { return summary_.get(); }
 
   signals:
     /// The program has ended: EXIT, quit, or the memo that ends the game acknowledged.
@@ -71,6 +82,11 @@ class GameWindows : public QObject {
     /// The window of a screen if it has been built, else nullptr.
     FormView* built(std::string_view form) const;
     void quit_key_for(QWidget& window);
+    /// Puts the offer to carry on over the title screen, as the files stand.
+    void build_offer(FormView& title);
+    void carry_on_career();
+    /// The memo that ends the game is up: the career goes into the hall, its summary beside it.
+    void summarise();
 
     Game& g_;
     QIcon icon_;
@@ -80,6 +96,10 @@ class GameWindows : public QObject {
     std::vector<FormView*> placed_;  ///< windows that stay where the player left them
     std::string announced_memo_;     ///< the memo last announced, or empty
     bool ended_ = false;
+    bool kept_ = false;  ///< the career has been kept as the program ends
+    QWidget* offer_ = nullptr;
+    std::unique_ptr<SummaryWindow> summary_;
+    std::unique_ptr<HallWindow> hall_;
 };
 
 }  // namespace tourvane

@@ -404,6 +404,76 @@ class WindowsTest : public QObject {
         QCOMPARE(seen, 3 * static_cast<int>(screens.size()));
     }
 
+    void aCareerKeptOnQuitCarriedOnAndOneThatEndsGoesToTheHall() {
+        for (const char* file : {"tvauto.tvs", "tvauto.tvh", "tvfame.tvf"}) QFile::remove(file);
+        {
+            Harness h(3);
+            QVERIFY(!h.windows->carry_on_offer());  // nothing kept yet: the title as it was
+            h.game_under_way();
+            h.g.rec.cash = 4321;
+            h.buttons = {QMessageBox::Yes};
+            h.key(h.view("main"), Qt::Key_Q, Qt::ControlModifier);  // quit, with Yes
+            QVERIFY(h.g.ended && QFile::exists("tvauto.tvs") && QFile::exists("tvauto.tvh"));
+        }
+        Harness next;
+        QWidget* offer = next.windows->carry_on_offer();
+        QVERIFY(offer && offer->isVisible());
+        QVERIFY(offer->findChild<QLabel*>()->text().contains("The Wasps, 01/09/2001, £ 4321"));
+        shoot(next.view("Form1"), "Form1_offer");
+        next.key(next.view("Form1"), Qt::Key_C);
+        QVERIFY(next.view("main")->isVisible() && !offer->isVisible());
+        QCOMPARE(next.g.rec.cash, 4321);
+        QCOMPARE(next.g.rec.membername[4], std::string(next.g.rec.membername[4]));
+        QVERIFY(!next.g.diary.empty());  // the career's diary came back with it
+
+        // Bankrupt: the summary stands beside the last memo, the hall keeps the career, and the
+        // automatic save goes with the career it held.
+        next.g.rec.cash = 0;
+        next.click("main", "command6");
+        QVERIFY(next.g.game_over);
+        SummaryWindow* summary = next.windows->summary();
+        QVERIFY(summary && summary->isVisible() && next.view("messageForm")->isVisible());
+        shoot(summary, "summary");
+        QTreeWidget* lines = summary->view()->lines();
+        QCOMPARE(lines->topLevelItem(0)->text(1), QString("The Wasps"));
+        while (!next.g.ended) next.click("messageForm", "command1");
+        QVERIFY(!summary->isVisible() && !QFile::exists("tvauto.tvs"));
+
+        Harness later;
+        QVERIFY(!later.windows->carry_on_offer());
+        later.key(later.view("Form1"), Qt::Key_H);
+        HallWindow& hall = later.windows->hall();
+        QVERIFY(QTest::qWaitForWindowExposed(&hall));
+        QCOMPARE(hall.careers()->topLevelItemCount(), 1);
+        QVERIFY(hall.careers()->topLevelItem(0)->text(0).startsWith("The Wasps (Sam), "));
+        QVERIFY(hall.summary()->lines()->topLevelItemCount() > 10);
+        shoot(&hall, "hall");
+        for (QPushButton* b : hall.findChildren<QPushButton*>())
+            if (b->accessibleName() == "Open the diary of this career") b->click();
+        QVERIFY(QTest::qWaitForWindowExposed(&hall.diary()));
+        QVERIFY(hall.diary().entries()->model()->rowCount() > 0);
+
+        // A damaged automatic save is told of, refused with a box, and left as it is.
+        QFile damaged("tvauto.tvs");
+        QVERIFY(damaged.open(QIODevice::WriteOnly) && damaged.write("\x05\x00Wasps!!") > 0);
+        damaged.close();
+        Harness refused;
+        QStringList boxes;
+        refused.port.set_presenter([&](QDialog& box) {
+            if (auto* m = qobject_cast<QMessageBox*>(&box)) boxes << m->text();
+            box.reject();
+        });
+        QVERIFY(
+            refused.windows->carry_on_offer()->findChild<QLabel*>()->text().contains("damaged"));
+        QVERIFY(!refused.windows->carry_on_offer()->findChild<QPushButton*>());
+        refused.key(refused.view("Form1"), Qt::Key_C);
+        QCOMPARE(boxes.size(), 1);
+        QVERIFY(boxes[0].contains("damaged") && refused.view("Form1")->isVisible());
+        QFile kept("tvauto.tvs");
+        QVERIFY(kept.open(QIODevice::ReadOnly) && kept.readAll() == QByteArray("\x05\x00Wasps!!"));
+        QFile::remove("tvauto.tvs");
+    }
+
     void aGameByKeysAloneWithEveryBoxAndMemoAnnounced() {
         static QList<std::pair<QObject*, QAccessible::Event>> heard;
         QAccessible::installUpdateHandler([](QAccessibleEvent* e) {

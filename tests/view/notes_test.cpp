@@ -5,6 +5,7 @@
 #include "view/notes.h"
 #include "rules/test_game.h"
 #include "rules/week/turn.h"
+#include "view/career.h"
 
 namespace tourvane::testing {
 namespace {
@@ -136,6 +137,44 @@ TEST(DiaryNotes, EveryAnswerOfTheLabelTellsWhatItLooksForAndNothingElseDoes) {
         EXPECT_EQ(diary_note(*verdict), looks_for) << q;
         EXPECT_EQ(diary_note(t.g.diary.front()), "") << q;  // the demo sent
     }
+}
+
+TEST(CareerWords, TheSummaryTellsEveryFigureAndTheHallAndTitleSayWhatTheyHold) {
+    CareerSummary s;
+    s.band = "The Wasps", s.boss = "Sam", s.first_day = kStartDate, s.last_day = kStartDate + 70;
+    s.weeks = 10, s.peak_cash = 4100, s.peak_cash_date = kStartDate + 14;
+    s.peak_popularity = 250, s.peak_popularity_date = kStartDate + 63, s.singles = 2;
+    s.bankrupt = true;
+    std::vector<SummaryLine> lines = summary_lines(s);
+    const auto value = [&](const char* label) {
+        for (const SummaryLine& l : summary_lines(s))
+            if (l.label == label) return l.value;
+        return std::string("(none)");
+    };
+    EXPECT_EQ(value("Band") + "|" + value("Boss") + "|" + value("Weeks lasted"),
+              "The Wasps|Sam|10");
+    EXPECT_EQ(value("Peak cash"), "£ 4100 on 15/09/2001");
+    EXPECT_EQ(value("Peak popularity"), "250 on 03/11/2001");
+    EXPECT_EQ(value("Best chart place"), "never in the chart");
+    EXPECT_EQ(value("Best gig"), "(none)");  // no gig played
+    EXPECT_EQ(value("The end"), "out of cash: the wages could not be paid");
+    EXPECT_EQ(hall_line(s), "The Wasps (Sam), 10 weeks");
+    s.tally.gigs = 3, s.tally.best_gig = {kStartDate + 21, "Town Hall", 1, -5, 150};
+    s.tally.best_place = 4, s.tally.best_song = "Wild Vibes", s.tally.best_place_date = kStartDate;
+    s.tally.demos = 2, s.tally.hired = 6, s.tally.lost = 2, s.weeks = 1;
+    EXPECT_EQ(value("Best chart place"), "4 with Wild Vibes on 01/09/2001");
+    EXPECT_EQ(value("Best gig"), "Town Hall on 22/09/2001: 1 person, £-5 profit");
+    EXPECT_EQ(value("Demos sent") + value("Members hired") + value("Members lost"), "262");
+    EXPECT_EQ(hall_line(s), "The Wasps (Sam), 1 week, best chart place 4");
+    EXPECT_EQ(lines.size() + 1, summary_lines(s).size());  // the best gig's line came in
+
+    EXPECT_EQ(carry_on_offer({}), "");
+    EXPECT_EQ(carry_on_offer({AutosavedCareer::State::Damaged, "It is damaged."}),
+              "It is damaged.");
+    EXPECT_EQ(carry_on_offer({AutosavedCareer::State::Ready, "The Wasps, 08/09/2001, £ 3000"}),
+              "Your last career was kept when Tourvane closed: The Wasps, 08/09/2001, £ 3000. "
+              "Press C to carry on with it.");
+    EXPECT_EQ(hall_hint(), "Press H for the hall of fame of careers that have ended.");
 }
 
 }  // namespace
