@@ -19,7 +19,7 @@ Owner& owner(Game& g) {
 template <class Owner, class Member>
 Field field_of(Game& g, const FieldDef<Owner, Member>& d) {
     Member& m = owner<Owner>(g).*d.member;
-    if constexpr (FieldShape<Member>::upper < 0)
+    if constexpr (!FieldShape<Member>::array)
         return {d.name, d.type, &m, -1};
     else
         return {d.name, d.type, m.data(), FieldShape<Member>::upper};

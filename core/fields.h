@@ -64,11 +64,13 @@ struct SavePlace {
 template <class M>
 struct FieldShape {
     using Element = M;
+    static constexpr bool array = false;
     static constexpr int upper = -1;
 };
 template <class T, std::size_t N>
 struct FieldShape<std::array<T, N>> {
     using Element = T;
+    static constexpr bool array = true;
     static constexpr int upper = static_cast<int>(N) - 1;
 };
 

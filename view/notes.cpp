@@ -18,6 +18,11 @@ constexpr std::size_t kRecentWeeks = 4;
 
 constexpr const char* kLevelNames[5] = {"None", "None", "Small", "Medium", "High"};
 
+/// The promotion level in force, 0 to 4; one the record can't hold counts as none.
+int promotion_level(const Module1& r) {
+    return in_bounds(kPromotionPrice, r.promotion) ? r.promotion : 0;
+}
+
 std::string pounds(long long amount) {
     return format_pounds(amount);
 }
@@ -62,8 +67,7 @@ Outgoings outgoings(const Game& g) {
         if (!is_vacant(r, slot)) ++out.members;
     out.wages_low = out.members;
     out.wages_high = static_cast<long long>(out.members) * kTopWage;
-    const int level = r.promotion >= 0 && r.promotion <= 4 ? r.promotion : 0;
-    out.promotion = kPromotionPrice[level];
+    out.promotion = kPromotionPrice[promotion_level(r)];
     out.low = out.wages_low + out.promotion;
     out.high = out.wages_high + out.promotion;
     if (out.high > 0) out.weeks = r.cash < 0 ? 0 : r.cash / out.high;
@@ -81,9 +85,8 @@ std::string cash_note(const Game& g) {
                 (out.members == 1 ? std::string(" for the one member")
                                   : " for each of the " + std::to_string(out.members) + " members");
     if (out.members > 0 && out.promotion > 0) text += " and ";
-    const int level = r.promotion >= 0 && r.promotion <= 4 ? r.promotion : 0;
     if (out.promotion > 0)
-        text += pounds(out.promotion) + " for " + kLevelNames[level] + " promotion";
+        text += pounds(out.promotion) + " for " + kLevelNames[promotion_level(r)] + " promotion";
     text += out.low == out.high ? ": " + pounds(out.high) + " in all."
                                 : ": " + pounds(out.low) + " to " + pounds(out.high) + " in all.";
     if (out.weeks == 0)

@@ -199,6 +199,9 @@ TEST_F(Career, HallReadsBestFirstAndDamagedOrMissingIsEmpty) {
     const Bytes bytes = hall_bytes(hall);
     EXPECT_EQ(parse_hall(bytes), hall);
     EXPECT_EQ(hall_bytes({}).size(), 12u);
+    const std::vector<FameEntry> least(1);  // no text, no list: the fewest bytes an entry takes
+    EXPECT_EQ(hall_bytes(least).size(), 12u + 115u);
+    EXPECT_EQ(parse_hall(hall_bytes(least)), least);
     files.files[hall_file()] = bytes;
     EXPECT_EQ(bands(read_hall(files)), "C;D;F;B;E;A;");
 

@@ -94,6 +94,8 @@ TEST_F(Saves, CraftedFileIsTakenFieldByFieldAndDamagedOnesAreRefused) {
     const Module1 cut = parse_save(b, r).value();
     EXPECT_TRUE(testing::has(
         cut, {is("membername(1)", "A"), is("cash", 0), is("songweeks", 0), is("gamedate", 0)}));
+    b.resize(at(5));  // ending where a text's record would begin: that text is empty too
+    EXPECT_TRUE(testing::has(parse_save(b, r).value(), {is("membername(1)", "")}));
 
     const Date outside[] = {kFirstDay - 1, kLastDay + 1};  // 31 December 99, 1 January 10000
     const std::function<void(Bytes&)> damage[] = {
@@ -112,6 +114,9 @@ TEST_F(Saves, CraftedFileIsTakenFieldByFieldAndDamagedOnesAreRefused) {
         damage[k](b);
         EXPECT_FALSE(parse_save(b, r).has_value()) << k;
     }
+    // The calendar's leap years across centuries: 2100 has no 29 February, 2000 had one.
+    EXPECT_EQ(format_date(73110) + " " + format_date(73109), "01/03/2100 28/02/2100");
+    EXPECT_EQ(format_date(36585) + " " + format_date(36584), "29/02/2000 28/02/2000");
     for (const Date day : {kFirstDay, kLastDay}) {  // the first and last days a date can show
         b = good;
         std::memcpy(b.data() + at(141), &day, 8);

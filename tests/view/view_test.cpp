@@ -93,6 +93,8 @@ TEST(Keys, TheOfficeDrawsEachButtonWithItsKeyAndTheKeyHelpListsEveryKey) {
         return s.title == "In the week graph";
     });
     EXPECT_EQ(graph.rows[2].keys + ": " + graph.rows[2].what, "Page Up: Thirteen weeks back");
+    EXPECT_EQ(help.back().title, "In every window");
+    EXPECT_EQ(help.back().rows.front().keys, "Ctrl+Q");
     EXPECT_EQ(about_text().substr(0, 9), "Tourvane ");
 }
 
@@ -257,8 +259,9 @@ TEST(GigReasons, ClosedVenuesAndTheTracksTellWhatComesFirst) {
     EXPECT_EQ(disabled_reason(t.g, gig, gig.command1), "Choose a venue first.");
     EXPECT_EQ(disabled_reason(t.g, gig, gig.Combo1), "Choose a venue and APPLY first.");
     click(t.g, "gig", "location", 0);
-    EXPECT_EQ(disabled_reason(t.g, gig, gig.command4),
-              "APPLY to the venue first: the tracks open once it takes the band.");
+    for (const Control* c : {&gig.Combo1, &gig.command3, &gig.command4})
+        EXPECT_EQ(disabled_reason(t.g, gig, *c),
+                  "APPLY to the venue first: the tracks open once it takes the band.");
 }
 
 TEST(Diary, TheFilterNarrowsBySenderAndByWordsInAnyCase) {
@@ -268,6 +271,9 @@ TEST(Diary, TheFilterNarrowsBySenderAndByWordsInAnyCase) {
     EXPECT_TRUE(f.shows(shock) && f.shows(cafe));
     f.search("  state   of shock ");
     EXPECT_EQ(f.words, "state of shock");
+    f.search("a\tb\nc\rd");
+    EXPECT_EQ(f.words, "a b c d");
+    f.search("state of shock");
     EXPECT_TRUE(f.shows(shock) && !f.shows(cafe));
     f.search("CAFÉ");
     EXPECT_TRUE(f.shows(cafe));
@@ -352,6 +358,8 @@ TEST(WeekGraph, ThePickedPointsLabelStandsClearOfItsMarks) {
     EXPECT_TRUE(at.left == 220 && at.top == 140);  // no room on the right; a mark at the top
     at = place_label(plot, 350, 20, 160, 120, 50, 10);
     EXPECT_EQ(at.top, 10);  // marks at both ends: it stays at the top, beside them
+    EXPECT_EQ(place_label(plot, 264, 150, 150, 120, 50, 10).left, 274);  // just room
+    EXPECT_EQ(place_label(plot, 266, 150, 150, 120, 50, 10).left, 136);  // just none
 }
 
 TEST(WeekGraph, ScalesStepsMoneyAndKeys) {
@@ -372,6 +380,7 @@ TEST(WeekGraph, ScalesStepsMoneyAndKeys) {
     EXPECT_EQ(date_step(11, 10), 2);
     EXPECT_EQ(date_step(1000, 10), 104);
     EXPECT_EQ(date_step(5, 0), 8);  // no room: one date, the first
+    EXPECT_EQ(date_step(2601, 2), 2600);  // fifty years of weeks: every fifty years
     EXPECT_EQ(graph_money(99999), "£ 99999");
     EXPECT_EQ(graph_money(-125000), "£ -125k");
     EXPECT_EQ(graph_money(1250000), "£ 1.25M");
