@@ -379,7 +379,7 @@ TEST(WeekGraph, ScalesStepsMoneyAndKeys) {
     EXPECT_EQ(date_step(10, 10), 1);
     EXPECT_EQ(date_step(11, 10), 2);
     EXPECT_EQ(date_step(1000, 10), 104);
-    EXPECT_EQ(date_step(5, 0), 8);  // no room: one date, the first
+    EXPECT_EQ(date_step(5, 0), 8);        // no room: one date, the first
     EXPECT_EQ(date_step(2601, 2), 2600);  // fifty years of weeks: every fifty years
     EXPECT_EQ(graph_money(99999), "£ 99999");
     EXPECT_EQ(graph_money(-125000), "£ -125k");
