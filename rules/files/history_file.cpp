@@ -142,9 +142,7 @@ std::vector<std::uint8_t> history_bytes(const Game& g, std::uint64_t mark) {
 
 std::optional<CareerHistory> parse_history(std::span<const std::uint8_t> bytes,
                                            std::uint64_t mark) {
-    if (bytes.size() < kMagic.size() ||
-        std::memcmp(bytes.data(), kMagic.data(), kMagic.size()) != 0)
-        return std::nullopt;
+    if (!looks_like_history(bytes)) return std::nullopt;
     Reader in(bytes.subspan(kMagic.size()));
     if (in.u64() != mark) return std::nullopt;
     CareerHistory h;
@@ -171,6 +169,11 @@ std::optional<CareerHistory> parse_history(std::span<const std::uint8_t> bytes,
     return h;
 }
 
+bool looks_like_history(std::span<const std::uint8_t> bytes) {
+    return bytes.size() >= kMagic.size() &&
+           std::memcmp(bytes.data(), kMagic.data(), kMagic.size()) == 0;
+}
+
 void write_history(const Game& g, int slot, std::span<const std::uint8_t> save) {
     std::string reason;
     if (!g.files->replace(history_file(slot), history_bytes(g, save_mark(save)), reason))
@@ -178,8 +181,6 @@ void write_history(const Game& g, int slot, std::span<const std::uint8_t> save) 
 }
 
 CareerHistory read_history(FilePort& files, int slot, const Module1& saved) {
-    // Far beyond any career's history; the cap keeps a stray huge file out of memory.
-    constexpr std::size_t kMaxHistoryBytes = std::size_t{64} << 20;
     const auto bytes = files.read(history_file(slot), kMaxHistoryBytes);
     if (!bytes) return {};
     return parse_history(*bytes, save_mark(save_bytes(saved))).value_or(CareerHistory{});
