@@ -80,25 +80,6 @@ std::string WebPort::inputbox(std::string_view prompt, std::string_view title) {
     return take(page_inputbox(asked.c_str(), titled.c_str()));
 }
 
-std::optional<std::vector<std::uint8_t>> WebFiles::read(const std::filesystem::path& path,
-                                                        std::size_t limit) {
-    return disk_files().read(path, limit);
-}
-
-bool WebFiles::replace(const std::filesystem::path& path, std::span<const std::uint8_t> bytes,
-                       std::string& reason) {
-    if (!disk_files().replace(path, bytes, reason)) return false;
-    const std::string error = keep_saves();
-    if (error.empty()) return true;
-    reason = "this browser's storage did not take it (" + error + ")";
-    return false;
-}
-
-void WebFiles::remove(const std::filesystem::path& path) {
-    disk_files().remove(path);
-    keep_saves();  // a history left behind names another save, and a load leaves it out
-}
-
 std::string open_saves() {
     return take(mount_and_fill(kSavesFolder));
 }

@@ -1,12 +1,12 @@
 #pragma once
 // The boxes and the save files of the web page. A box is a modal dialog of the page that the
 // rules wait on (the wasm stack is put aside while the page waits for the player); the save
-// files live in the browser's storage, mounted as a folder and written back after each save.
+// files live in the browser's storage, mounted as a folder and written back after each change
+// (app/web/kept_files.h).
 
 #include <string>
 #include <string_view>
 
-#include "core/file_port.h"
 #include "core/ui_port.h"
 
 namespace tourvane {
@@ -17,19 +17,6 @@ class WebPort : public UiPort {
     Answer msgbox(std::string_view text, Buttons buttons, bool critical) override;
     /// Opens the page's box with a text field, OK and Cancel, and waits for the text.
     std::string inputbox(std::string_view prompt, std::string_view title) override;
-};
-
-/// The disk of the page: the files of the folder the game runs in, each change written on to
-/// the browser's storage before the rules go on (a save is kept before "Game Saved" shows).
-class WebFiles : public FilePort {
-  public:
-    std::optional<std::vector<std::uint8_t>> read(const std::filesystem::path& path,
-                                                  std::size_t limit) override;
-    /// Writes the file, then the browser's storage; when the storage refuses it, the save has
-    /// failed and `reason` says so.
-    bool replace(const std::filesystem::path& path, std::span<const std::uint8_t> bytes,
-                 std::string& reason) override;
-    void remove(const std::filesystem::path& path) override;
 };
 
 /// The folder the saves live in.
