@@ -10,7 +10,6 @@
 #include "view/controls.h"
 #include "view/help.h"
 #include "view/notes.h"
-#include "view/week_graph.h"
 
 namespace tourvane {
 
@@ -91,6 +90,19 @@ void write_names(Json& j, std::string_view name, const std::vector<const FormSta
     j.key(name).array();
     for (const FormState* f : forms) j.value(f->name);
     j.end();
+}
+
+/// The point picked among `n`: `picked`, or the latest for -1 or one beyond them; -1 for none.
+int picked_point(int n, int picked) {
+    return n == 0 ? -1 : picked < 0 || picked >= n ? n - 1 : picked;
+}
+
+void write_pick(Json& j, const std::vector<GraphPoint>& points, int current) {
+    j.member("picked", current).member("readout", graph_readout(points, current));
+    if (current >= 0)
+        j.list("label", point_label(points, current));
+    else
+        j.key("label").array().end();
 }
 
 }  // namespace
@@ -291,7 +303,7 @@ std::string diary_json(const Game& g, DiarySenders& senders, DiaryFilter& filter
 std::string graph_json(const Game& g, int room, int picked) {
     const std::vector<GraphPoint> points = graph_points(g);
     const int n = static_cast<int>(points.size());
-    const int current = n == 0 ? -1 : picked < 0 || picked >= n ? n - 1 : picked;
+    const int current = picked_point(n, picked);
     const GraphScales s = graph_scales(points);
     Json j;
     j.reserve(512 + points.size() * 90);
@@ -326,11 +338,16 @@ std::string graph_json(const Game& g, int room, int picked) {
         if (points[i].start)
             j.object().member("index", i).member("label", stretch_label(points[i])).end();
     j.end();
-    j.member("picked", current).member("readout", graph_readout(points, current));
-    if (current >= 0)
-        j.list("label", point_label(points, current));
-    else
-        j.key("label").array().end();
+    write_pick(j, points, current);
+    j.end();
+    return j.take();
+}
+
+std::string graph_pick_json(const Game& g, int picked) {
+    const std::vector<GraphPoint> points = graph_points(g);
+    Json j;
+    j.object();
+    write_pick(j, points, picked_point(static_cast<int>(points.size()), picked));
     j.end();
     return j.take();
 }

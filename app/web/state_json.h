@@ -16,6 +16,7 @@
 #include "view/diary.h"
 #include "view/keys.h"
 #include "view/screens.h"
+#include "view/week_graph.h"
 
 namespace tourvane {
 
@@ -58,6 +59,10 @@ std::string diary_json(const Game& g, DiarySenders& senders, DiaryFilter& filter
 /// `room` dates fit, the labels of the stretches begun by a load, and the point `picked`
 /// (-1 for the latest) with its read-out and label.
 std::string graph_json(const Game& g, int room, int picked);
+
+/// The point `picked` of the week graph (-1 for the latest) alone: its index, read-out and
+/// label, for a pick that leaves the points as they were.
+std::string graph_pick_json(const Game& g, int picked);
 
 /// The four slots as the saves panel offers them (app/web/slot_files.h).
 std::string slots_json(FilePort& files);

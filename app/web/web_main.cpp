@@ -25,7 +25,7 @@ namespace {
 
 bool lasting = false;  // the saves folder is the browser's storage
 WebPort port;
-KeptFiles files(disk_files(), [] { return lasting ? keep_saves() : std::string(); });
+KeptFiles files(page_folder(), [] { return lasting ? keep_saves() : std::string(); });
 Game game(port);
 ScreenOrder screens;   // the screens the page has open, and which comes to the front
 DiarySenders senders;  // the diary's senders, for its filter
@@ -141,6 +141,11 @@ EMSCRIPTEN_KEEPALIVE const char* tourvane_graph(int room, int picked) {
     return hand_over(graph_json(game, room, picked));
 }
 
+/// The week graph's point `picked` alone (-1 for the latest), with its read-out and label.
+EMSCRIPTEN_KEEPALIVE const char* tourvane_graph_pick(int picked) {
+    return hand_over(graph_pick_json(game, picked));
+}
+
 /// The point a graph key (its action's name) picks from `current` among `count` points.
 EMSCRIPTEN_KEEPALIVE int tourvane_graph_move(const char* action, int current, int count) {
     const std::optional<KeyAction> a = action_named(action ? action : "");
@@ -176,13 +181,14 @@ EMSCRIPTEN_KEEPALIVE int tourvane_file_size() {
     return static_cast<int>(download.size());
 }
 
-/// Takes one or two picked files into a slot (app/web/slot_files.h upload_to_slot): each
-/// its name, its whole size and its bytes (at the address given, `read` of them, 0 for a file
-/// over the limit the page did not read). {"taken":..,"message":..}; refused while a click
-/// runs.
-EMSCRIPTEN_KEEPALIVE const char* tourvane_upload(int slot, const char* name_a, double size_a,
-                                                 const std::uint8_t* bytes_a, int read_a,
-                                                 const char* name_b, double size_b,
+/// Takes the files the player picked (`count` of them) into a slot (app/web/slot_files.h
+/// upload_to_slot): the first two each with its name, its whole size and its bytes (at the
+/// address given, `read` of them; none for a file over the limit the page did not read).
+/// {"taken":..,"message":..}; refused while a click runs. It waits for the browser's storage,
+/// so the page calls it asynchronously, as a click.
+EMSCRIPTEN_KEEPALIVE const char* tourvane_upload(int slot, int count, const char* name_a,
+                                                 double size_a, const std::uint8_t* bytes_a,
+                                                 int read_a, const char* name_b, double size_b,
                                                  const std::uint8_t* bytes_b, int read_b) {
     UploadResult result{false, "The game is busy: try again once the box is answered."};
     if (started && !busy) {
@@ -195,7 +201,11 @@ EMSCRIPTEN_KEEPALIVE const char* tourvane_upload(int slot, const char* name_a, d
         };
         pick(name_a, size_a, bytes_a, read_a);
         pick(name_b, size_b, bytes_b, read_b);
+        // Files past the two the page hands over are only counted, for the refusal.
+        while (static_cast<int>(picked.size()) < count) picked.push_back({});
+        busy = true;  // the storage is written meanwhile: no click gets in
         result = upload_to_slot(game, slot, picked);
+        busy = false;
     }
     Json j;
     j.object().member("taken", result.taken).member("message", result.message).end();

@@ -2,8 +2,11 @@
 
 #include <emscripten.h>
 
+#include <cstdio>
 #include <cstdlib>
+#include <cstring>
 #include <memory>
+#include <system_error>
 
 namespace tourvane {
 
@@ -66,7 +69,37 @@ std::string take(char* text) {
     return text ? std::string(text) : std::string();
 }
 
+class PageFolder : public FilePort {
+  public:
+    std::optional<std::vector<std::uint8_t>> read(const std::filesystem::path& path,
+                                                  std::size_t limit) override {
+        return read_file(path, limit);
+    }
+    bool replace(const std::filesystem::path& path, std::span<const std::uint8_t> bytes,
+                 std::string& reason) override {
+        std::filesystem::path fresh = path;
+        fresh += ".new";
+        std::FILE* f = std::fopen(fresh.c_str(), "wb");
+        bool ok = f && std::fwrite(bytes.data(), 1, bytes.size(), f) == bytes.size();
+        if (f && std::fclose(f) != 0) ok = false;
+        if (ok && std::rename(fresh.c_str(), path.c_str()) == 0) return true;
+        reason = std::strerror(errno);
+        std::error_code ec;
+        std::filesystem::remove(fresh, ec);
+        return false;
+    }
+    void remove(const std::filesystem::path& path) override {
+        std::error_code ec;
+        std::filesystem::remove(path, ec);
+    }
+};
+
 }  // namespace
+
+FilePort& page_folder() {
+    static PageFolder folder;
+    return folder;
+}
 
 Answer WebPort::msgbox(std::string_view text, Buttons buttons, bool critical) {
     const std::string shown(text);

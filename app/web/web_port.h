@@ -7,6 +7,7 @@
 #include <string>
 #include <string_view>
 
+#include "core/file_port.h"
 #include "core/ui_port.h"
 
 namespace tourvane {
@@ -18,6 +19,11 @@ class WebPort : public UiPort {
     /// Opens the page's box with a text field, OK and Cancel, and waits for the text.
     std::string inputbox(std::string_view prompt, std::string_view title) override;
 };
+
+/// The files of the folder the page runs in, held in the page's memory until `keep_saves`
+/// writes them on: written whole to a new file and renamed over the old, with no flush to a
+/// disk (a flush would write the browser's storage on each file by itself).
+FilePort& page_folder();
 
 /// The folder the saves live in.
 inline constexpr const char* kSavesFolder = "/saves";

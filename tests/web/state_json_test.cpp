@@ -320,6 +320,10 @@ TEST(GraphJson, PointsScalesGridAndThePickedWeek) {
     EXPECT_EQ(w["picked"].integer(), 1);
     EXPECT_EQ(w["readout"].text, "Week 1 of 3, ending 08/09/2001: cash £ 2990, popularity 4");
     EXPECT_EQ(JsonReader::read(graph_json(g, 3, 99))["picked"].integer(), 6);
+    const JsonValue pick = JsonReader::read(graph_pick_json(g, 4));
+    EXPECT_EQ(pick["picked"].integer(), 4);
+    EXPECT_EQ(pick["label"][1].text, "The band was away");
+    EXPECT_FALSE(pick.has("points"));
 }
 
 }  // namespace
