@@ -39,6 +39,14 @@ function domId(form, id) {
   return `${form}-${id.replace(/[()]/g, (p) => (p === '(' ? '-' : ''))}`;
 }
 
+/// Puts a control where the model has it within its screen.
+function place(element, rect) {
+  element.style.left = `${rect.left}px`;
+  element.style.top = `${rect.top}px`;
+  element.style.width = `${rect.width}px`;
+  element.style.height = `${rect.height}px`;
+}
+
 /// Sets or removes an attribute: removed for an empty value.
 function attribute(element, name, value) {
   if (value) element.setAttribute(name, value);
@@ -239,10 +247,7 @@ export class Screen extends Panel {
     const { element } = w;
     element.dataset.control = c.name;
     if (c.index >= 0) element.dataset.index = c.index;
-    element.style.left = `${c.rect.left}px`;
-    element.style.top = `${c.rect.top}px`;
-    element.style.width = `${c.rect.width}px`;
-    element.style.height = `${c.rect.height}px`;
+    place(element, c.rect);
     this.body.append(element);
     if (element.classList.contains('wrap')) this.wraps.push(w);
     // What a hover tells, and the whole caption where the panel shows it cut short.
@@ -355,6 +360,7 @@ export class Screen extends Panel {
       const { element } = w;
       const target = w.target || element;
       element.hidden = !c.visible;
+      place(element, c.rect);  // the rules may move a control (LOAD GAME centres Load)
       element.classList.toggle('grey', !c.enabled);
       if (w.interactive) {
         attribute(target, 'aria-disabled', c.enabled ? '' : 'true');
