@@ -30,17 +30,7 @@ EM_ASYNC_JS(char*, page_inputbox, (const char* prompt, const char* title), {
 });
 
 EM_ASYNC_JS(char*, mount_and_fill, (const char* folder), {
-    const path = UTF8ToString(folder);
-    let error = "";
-    try {
-        FS.mkdir(path);
-        FS.mount(IDBFS, {}, path);
-        error = await new Promise(function(resolve) {
-            FS.syncfs(true, function(e) { resolve(e ? String(e.message || e) : ""); });
-        });
-    } catch (e) {
-        error = String(e.message || e);
-    }
+    const error = await Module.tourvaneMountSaves(UTF8ToString(folder));  // saves_folder.js
     const size = lengthBytesUTF8(error) + 1;
     const copy = _malloc(size);
     stringToUTF8(error, copy, size);

@@ -33,8 +33,8 @@ const TYPES = {
 };
 
 /// Serves a folder (the site by default) on 127.0.0.1 at a free port; resolves to
-/// { url, close }. `extra` maps more paths to files (the accessibility scanner).
-export async function serve(root = siteDir, extra = {}) {
+/// { url, close }. `extra` maps more paths to files; `headers` go with every answer.
+export async function serve(root = siteDir, extra = {}, headers = {}) {
   const server = createServer(async (request, response) => {
     const { pathname } = new URL(request.url, 'http://127.0.0.1');
     let file = extra[pathname] || path.join(root, decodeURIComponent(pathname));
@@ -48,6 +48,7 @@ export async function serve(root = siteDir, extra = {}) {
       response.writeHead(200, {
         'Content-Type': TYPES[path.extname(file)] || 'application/octet-stream',
         'Cache-Control': 'no-store',
+        ...headers,
       });
       response.end(body);
     } catch {
@@ -60,6 +61,12 @@ export async function serve(root = siteDir, extra = {}) {
     url: `http://127.0.0.1:${port}/`,
     close: () => new Promise((resolve) => server.close(resolve)),
   };
+}
+
+/// Starts chromium with no profile of its own, for fresh contexts made one after another (the
+/// benchmark, bench/web.mjs).
+export function launchChromium() {
+  return chromium.launch({ executablePath: CHROMIUM, headless: true, args: FLAGS });
 }
 
 /// Starts chromium on a fresh profile with a page open on the site, at `scale` device pixels a

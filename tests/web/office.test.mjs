@@ -68,6 +68,13 @@ test('hiring, a member picked, a refused lesson and the chart beside the office'
     const tip = page.getByRole('tooltip');
     await tip.waitFor();
     assert.equal(await tip.textContent(), cut.text);
+    // Asked for again while it stands open, it comes to the front with the keys.
+    await button(desk, 'Next Week').focus();
+    assert.equal(await list.evaluate((e) => e.classList.contains('front')), false);
+    await press(page, button(desk, 'Music Chart'));
+    assert.equal(await list.evaluate((e) => e.classList.contains('front')), true);
+    assert.equal(await page.evaluate(() => document.activeElement.closest('.panel').id),
+                 'screen-Chart');
     await press(page, button(list, 'OK'));
     assert.equal(await chart(page).count(), 0);
     assert.equal(await page.evaluate(() => !!document.activeElement.closest('#screen-main')), true);

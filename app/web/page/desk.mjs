@@ -80,6 +80,19 @@ export class Desk {
     this.frontPanel = null;
     this.memo = null;    // the panel laid over another (the memo)
     addEventListener('resize', () => this.layMemo());
+    // A panel the player moves into is the one in front, as a window clicked is.
+    element.addEventListener('focusin', (event) => {
+      const panel = this.panels.find((p) => p.element.contains(event.target));
+      if (panel) this.mark(panel);
+    });
+  }
+
+  /// Marks the panel in front.
+  mark(panel) {
+    if (this.frontPanel && this.frontPanel !== panel)
+      this.frontPanel.element.classList.remove('front');
+    this.frontPanel = panel;
+    panel.element.classList.add('front');
   }
 
   /// Puts a panel on the desk after those already open.
@@ -114,10 +127,7 @@ export class Desk {
   /// `first`).
   front(panel, first = false) {
     if (!panel || !panel.open) return;
-    if (this.frontPanel && this.frontPanel !== panel)
-      this.frontPanel.element.classList.remove('front');
-    this.frontPanel = panel;
-    panel.element.classList.add('front');
+    this.mark(panel);
     panel.element.scrollIntoView({ block: 'nearest', inline: 'nearest' });
     panel.focus(first);
   }

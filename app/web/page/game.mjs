@@ -4,14 +4,27 @@
 
 import createTourvane from './tourvane.js';
 
+/// The folder the game keeps its saves in (app/web/web_port.h kSavesFolder).
+const SAVES = '/saves';
+
 export class Game {
   /// Loads and instantiates the game; `port` answers its boxes (msgbox, inputbox).
   static async load(port) {
-    const module = await createTourvane({
-      tourvaneMsgBox: port.msgbox,
-      tourvaneInputBox: port.inputbox,
-    });
-    return new Game(module);
+    const settings = { tourvaneMsgBox: port.msgbox, tourvaneInputBox: port.inputbox };
+    const code = window.tourvaneCode;  // compiling since the page began (index.html)
+    if (code) {
+      settings.instantiateWasm = (imports, receive) => {
+        // The saves folder fills from the browser's storage meanwhile (saves_folder.js).
+        queueMicrotask(() => settings.tourvaneMountSaves(SAVES));
+        code.then((compiled) => WebAssembly.instantiate(compiled, imports)
+                                            .then((instance) => receive(instance, compiled)))
+            .catch((error) => settings.failed(error));
+        return {};
+      };
+    }
+    const loading = createTourvane(settings);
+    const failed = new Promise((resolve, reject) => { settings.failed = reject; });
+    return new Game(await Promise.race([loading, failed]));
   }
 
   constructor(module) {

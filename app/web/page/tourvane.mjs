@@ -25,7 +25,8 @@ let state = null;     // the game as last drawn
 let ended = false;
 let announced = '';   // the memo last announced
 const screens = new Map();  // form name -> Screen, built when first shown
-const sides = {};           // the panels beside the office, by place
+const sides = {};           // the panels beside the office, by place, built when first opened
+const makers = {};          // how each is built
 const opens = {};           // the bar's buttons that open them, by place
 
 /// Tells the world the page has been drawn again: the tests and the benchmark wait on it.
@@ -95,12 +96,11 @@ function render() {
   desk.layMemo(screens.get('main'));
 
   // The save screen brings the saves beside it, and takes them away again.
-  const saves = sides.saves;
-  if (s.screens.opened.includes('savefrm') && !saves.open) {
-    openSide(saves, false);
-    saves.auto = true;
-  } else if (s.screens.closed.includes('savefrm') && saves.auto && saves.open) {
-    closeSide(saves, false);
+  if (s.screens.opened.includes('savefrm') && !isOpen('saves')) {
+    openSide(side('saves'), false);
+    sides.saves.auto = true;
+  } else if (s.screens.closed.includes('savefrm') && isOpen('saves') && sides.saves.auto) {
+    closeSide(sides.saves, false);
   }
 
   const front = screens.get(s.screens.front);
@@ -165,14 +165,25 @@ function closeSide(panel, keys = true) {
   showBar();
 }
 
-/// The panels the office opens with its keys, and the saves, from anywhere.
+/// A panel beside the office by its place, built the first time it is wanted.
+function side(place) {
+  if (!sides[place]) {
+    sides[place] = makers[place]();
+    sides[place].onClose = (p) => closeSide(p);
+  }
+  return sides[place];
+}
+
+const isOpen = (place) => Boolean(sides[place] && sides[place].open);
+
+/// The panels the office opens with its keys, and the saves, from anywhere; and the bar's
+/// buttons that open them.
 function buildSides() {
   const close = words.close_button;
-  sides.diary = new DiaryPanel(game, words, close);
-  sides.graph = new GraphPanel(game, words, close, keys, keyName);
-  sides.help = new HelpPanel(game, words, close);
-  sides.saves = new SavesPanel(game, words, close, () => render());
-  for (const panel of Object.values(sides)) panel.onClose = (p) => closeSide(p);
+  makers.diary = () => new DiaryPanel(game, words, close);
+  makers.graph = () => new GraphPanel(game, words, close, keys, keyName);
+  makers.help = () => new HelpPanel(game, words, close);
+  makers.saves = () => new SavesPanel(game, words, close, () => render());
 
   // The bar's buttons: the office's windows as its keys open them, and the saves.
   const bar = document.getElementById('bar-buttons');
@@ -192,9 +203,8 @@ function buildSides() {
     }
     button.addEventListener('click', () => {
       if (button.getAttribute('aria-disabled') === 'true') return;
-      const panel = sides[place];
-      if (panel.open) closeSide(panel);
-      else openSide(panel);
+      if (isOpen(place)) closeSide(sides[place]);
+      else openSide(side(place));
     });
     opens[place] = button;
     bar.append(button);
@@ -209,10 +219,10 @@ function showBar() {
   for (const [place, button] of Object.entries(opens)) {
     const officeOnly = place !== 'saves';
     button.hidden = officeOnly && !shown;
-    const grey = officeOnly && state && !state.office_usable && !sides[place].open;
+    const grey = officeOnly && state && !state.office_usable && !isOpen(place);
     if (grey) button.setAttribute('aria-disabled', 'true');
     else button.removeAttribute('aria-disabled');
-    button.setAttribute('aria-pressed', sides[place].open ? 'true' : 'false');
+    button.setAttribute('aria-pressed', isOpen(place) ? 'true' : 'false');
   }
 }
 
@@ -234,7 +244,7 @@ function onKey(event) {
     else if (panel.place === 'main') {
       row = keys.find('main', key, ['OpenDiary', 'OpenGraph', 'OpenHelp']);
       if (row && state.office_usable) {
-        openSide({ OpenDiary: sides.diary, OpenGraph: sides.graph, OpenHelp: sides.help }[row.action]);
+        openSide(side({ OpenDiary: 'diary', OpenGraph: 'graph', OpenHelp: 'help' }[row.action]));
       }
     }
   } else if (panel) {
@@ -272,8 +282,10 @@ async function start() {
         desk.front(desk.memo);
     }
   });
+  performance.mark('tourvane:script');  // the marks time the start (bench/web.mjs)
   try {
     game = await Game.load({ msgbox, inputbox });
+    performance.mark('tourvane:instantiated');
   } catch (error) {
     statusLine.textContent = `Tourvane could not be loaded: ${error && error.message || error}`;
     return;
@@ -284,6 +296,7 @@ async function start() {
   buildSides();
   const seed = new URLSearchParams(location.search).get('seed') || '';
   const started = await game.start(seed);
+  performance.mark('tourvane:started');
   statusLine.textContent = game.notice();
   if (started === 2) {
     game = null;  // a seed that is no whole number: the game does not start
