@@ -1,9 +1,9 @@
 // Put at the head of tourvane.js (emcc --pre-js): the saves folder mounted on the browser's
-// storage (IndexedDB, through Emscripten's IDBFS) and filled with what it kept, once. The game
-// waits on it as it starts (app/web/web_port.cpp); the page may begin it earlier, while the
-// game's code is still being compiled (app/web/page/game.mjs), with the storage it opened as
-// it loaded (app/web/page/index.html). Resolves to empty text once the folder is filled, else
-// to why the saves will last only as long as the page.
+// storage (IndexedDB, through Emscripten's IDBFS) and filled with what it kept, once, as the
+// game starts (app/web/web_port.cpp), with the storage the page opened while it loaded
+// (app/web/page/index.html). Resolves to empty text once the folder is filled, else to why the
+// saves will last only as long as the page. (The folder can only be filled once the game's
+// memory stands: not before the game is instantiated.)
 Module['tourvaneMountSaves'] = function(folder) {
   if (!Module.tourvaneSaves) {
     Module.tourvaneSaves = (async function() {

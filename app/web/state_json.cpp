@@ -188,8 +188,9 @@ std::string state_json(Game& g, const ScreenChanges& changes,
         j.member("width", f.width).member("height", f.height);
         j.member("loaded", f.loaded).member("visible", f.visible).member("enabled", f.enabled);
         j.member("usable", f.usable()).member("forward_requests", f.forward_requests);
+        // Only a screen on show is drawn: the others' controls would be written for nothing.
         j.key("controls").array();
-        f.each([&](const Control& c) { write_control(j, g, f, c); });
+        if (wanted_open(g, f)) f.each([&](const Control& c) { write_control(j, g, f, c); });
         j.end();
         j.end();
     });

@@ -36,8 +36,8 @@ std::string page_key(std::string_view key);
 /// (`memos`), whether the office is free to open the windows beside it (`office_usable`),
 /// what the quit key clicks (`quit`), the screens open in the order they opened with the
 /// changes `changes` says (`screens`), the memo's announcement (`memo`, or null), and every
-/// form with every control in declaration order, each with what the presentation layer says
-/// of it under `view`.
+/// form, each on show with every control in declaration order and what the presentation layer
+/// says of it under `view` (a form not on show has no controls to draw).
 std::string state_json(Game& g, const ScreenChanges& changes,
                        const std::vector<const FormState*>& open);
 

@@ -49,22 +49,32 @@ test('the keyboard alone starts a game, hires a band and plays a week', async ()
     await key(page, 'ArrowDown');
     assert.notEqual(await value(desk, 'Age'), '...');
 
-    // N plays the week from anywhere in the office; Escape answers No and reads each memo.
+    // N plays the week from anywhere in the office; Enter answers the box's default, Yes, and
+    // the tired band is asked again, where Escape answers No; Escape reads each memo.
     await key(page, 'n');
     assert.equal(await messageBox(page).locator('.box-text').textContent(),
                  'Do you want the band to practise?');
-    await key(page, 'Escape');
+    await key(page, 'Enter');
     while (await memo(page).isVisible()) await key(page, 'Escape');
     assert.equal(await value(desk, 'Date'), '08/09/2001');
+    await key(page, 'n');
+    await key(page, 'Enter');
+    assert.equal(await messageBox(page).locator('.box-text').textContent(),
+                 'The band is tired, make them practise anyway?');
+    await key(page, 'Escape');
+    while (await memo(page).isVisible()) await key(page, 'Escape');
+    assert.equal(await value(desk, 'Date'), '15/09/2001');
 
     // D: the diary takes the keys; typing in its search fires no letter of the office.
     await page.keyboard.press('d');
     await diary(page).waitFor();
     await page.keyboard.press('Alt+S');
     assert.equal(await focused(page), 'Search');
-    await page.keyboard.type('practise');
+    await page.keyboard.type('tired');
     await diary(page).getByRole('status').getByText(/^1 of \d+ messages$/).waitFor();
-    assert.equal(await messageBox(page).count(), 0, 'the p and the n went into the search');
+    assert.equal(await diary(page).getByRole('searchbox').inputValue(), 'tired');
+    assert.equal(await memo(page).count() + await messageBox(page).count(), 0,
+                 'R (Record Song) and D did nothing: the letters went into the search');
     await page.keyboard.press('Control+F');  // the diary's own, not the browser's find
     assert.equal(await focused(page), 'Search');
     await page.keyboard.press('Escape');
@@ -76,11 +86,11 @@ test('the keyboard alone starts a game, hires a band and plays a week', async ()
     await page.keyboard.press('g');
     const slider = graph(page).getByRole('slider', { name: 'Week graph' });
     await slider.waitFor();
-    assert.match(await slider.getAttribute('aria-valuetext'), /^Week 1 of 1, ending 08\/09\/2001/);
+    assert.match(await slider.getAttribute('aria-valuetext'), /^Week 2 of 2, ending 15\/09\/2001/);
     await page.keyboard.press('Home');
     assert.match(await slider.getAttribute('aria-valuetext'), /^Start, 01\/09\/2001: cash £ 3000/);
     await page.keyboard.press('End');
-    assert.equal(await slider.getAttribute('aria-valuenow'), '1');
+    assert.equal(await slider.getAttribute('aria-valuenow'), '2');
     await page.keyboard.press('Escape');
 
     // F1: the help, kept from the browser's own.

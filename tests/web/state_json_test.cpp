@@ -79,11 +79,16 @@ TEST(StateJson, EveryFormAndControlInOrderWithTheModelAndWhatTheViewSays) {
     EXPECT_EQ(s["memo"].type, JsonValue::Type::Null);
     EXPECT_FALSE(s["office_usable"].boolean);
 
-    // The seven forms in their fixed order, each control once in declaration order.
+    // The seven forms in their fixed order; the one on show with each control once, in
+    // declaration order, the others with none to draw.
     std::vector<std::string> names;
     g.forms.each_form([&](FormState& f) {
         names.push_back(f.name);
         const JsonValue& written = form(s, f.name)["controls"];
+        if (!wanted_open(g, f)) {
+            EXPECT_EQ(written.size(), 0u) << f.name;
+            return;
+        }
         ASSERT_EQ(written.size(), f.controls.size()) << f.name;
         std::size_t i = 0;
         f.each([&](Control& c) { EXPECT_EQ(written[i++]["name"].text, c.name) << f.name; });
@@ -98,7 +103,7 @@ TEST(StateJson, EveryFormAndControlInOrderWithTheModelAndWhatTheViewSays) {
     EXPECT_TRUE(title["usable"].boolean);
     const JsonValue& gig = form(s, "gig");
     EXPECT_EQ(gig["title"].text + "|" + gig["focus"].text, "Play a Gig|location(0)");
-    EXPECT_EQ(control(s, "gig", "location(0)")["index"].integer(), 0);
+    EXPECT_FALSE(gig["loaded"].boolean);
 
     t.new_game("Grey & \"Co\"", "Zoë");
     s = state(g, order);
@@ -134,8 +139,6 @@ TEST(StateJson, EveryFormAndControlInOrderWithTheModelAndWhatTheViewSays) {
               "£ 3000. Nothing goes out this week: nobody is hired and no promotion is bought.");
     EXPECT_FALSE(control(s, "main", "Label19")["view"]["shows_value"].boolean);
     EXPECT_EQ(control(s, "main", "txtname")["caption"].text, "Zoë's Office");
-    // Keys the table names with other words reach the page in its own.
-    EXPECT_EQ(control(s, "messageForm", "command1")["view"]["shortcut"].text, "Escape");
     EXPECT_EQ(control(s, "main", "promote(1)")["view"]["name"].text, "Small £100");
 
     // Lists: the model's rows, and the rows as shown, songs with their quality.
@@ -160,6 +163,9 @@ TEST(StateJson, EveryFormAndControlInOrderWithTheModelAndWhatTheViewSays) {
     EXPECT_EQ(s["screens"]["open"].strings(), (Rows{"main", "messageForm"}));
     EXPECT_FALSE(s["office_usable"].boolean);
     EXPECT_FALSE(form(s, "main")["usable"].boolean);
+    // Keys the table names with other words reach the page in its own.
+    EXPECT_EQ(control(s, "messageForm", "command1")["view"]["shortcut"].text, "Escape");
+    EXPECT_EQ(control(s, "messageForm", "txtFrom")["caption"].text, "Dave");
     t.ok_memos();
     s = state(g, order);
     EXPECT_EQ(s["screens"]["closed"].strings(), Rows{"messageForm"});
@@ -176,6 +182,8 @@ TEST(StateJson, EveryFormAndControlInOrderWithTheModelAndWhatTheViewSays) {
 TEST(StateJson, TheChartsColoursAndAnOptionsValueComeAsTheModelHasThem) {
     TestGame t;
     Game& g = t.g;
+    t.new_game();
+    g.forms.Chart.loaded = g.forms.Chart.visible = true;  // as the chart is opened
     g.forms.Chart.Label1.rule_colour = true;
     g.forms.main.promote[2].value = true;
     ScreenOrder order;

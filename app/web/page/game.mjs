@@ -4,9 +4,6 @@
 
 import createTourvane from './tourvane.js';
 
-/// The folder the game keeps its saves in (app/web/web_port.h kSavesFolder).
-const SAVES = '/saves';
-
 export class Game {
   /// Loads and instantiates the game; `port` answers its boxes (msgbox, inputbox).
   static async load(port) {
@@ -14,8 +11,6 @@ export class Game {
     const code = window.tourvaneCode;  // compiling since the page began (index.html)
     if (code) {
       settings.instantiateWasm = (imports, receive) => {
-        // The saves folder fills from the browser's storage meanwhile (saves_folder.js).
-        queueMicrotask(() => settings.tourvaneMountSaves(SAVES));
         code.then((compiled) => WebAssembly.instantiate(compiled, imports)
                                             .then((instance) => receive(instance, compiled)))
             .catch((error) => settings.failed(error));
