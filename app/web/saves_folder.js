@@ -7,16 +7,26 @@
 Module['tourvaneMountSaves'] = function(folder) {
   if (!Module.tourvaneSaves) {
     Module.tourvaneSaves = (async function() {
+      const page = typeof window !== 'undefined' ? window : {};
       // The storage the page opened serves if it is the very one IDBFS would open.
-      const early = typeof window !== 'undefined' && window.tourvaneStorage
-        ? await window.tourvaneStorage : null;
-      if (early && early.name === folder && early.version === IDBFS.DB_VERSION &&
-          early.objectStoreNames.contains(IDBFS.DB_STORE_NAME)) {
-        IDBFS.dbs[folder] = early;
-      } else if (early) {
-        early.close();
-      }
+      const serves = function(db) {
+        return db && db.name === folder && db.version === IDBFS.DB_VERSION &&
+               db.objectStoreNames.contains(IDBFS.DB_STORE_NAME);
+      };
+      const take = function(db) {
+        if (serves(db) && !IDBFS.dbs[folder]) IDBFS.dbs[folder] = db;
+        else if (db && IDBFS.dbs[folder] !== db) db.close();
+      };
       try {
+        if (page.tourvaneStorageFresh && await page.tourvaneStorageFresh) {
+          // Made just now, the storage holds nothing to fill the folder with: the game need
+          // not wait for it to stand before its title screen.
+          FS.mkdir(folder);
+          FS.mount(IDBFS, {}, folder);
+          page.tourvaneStorage.then(take);
+          return '';
+        }
+        take(page.tourvaneStorage ? await page.tourvaneStorage : null);
         FS.mkdir(folder);
         FS.mount(IDBFS, {}, folder);
         return await new Promise(function(resolve) {
