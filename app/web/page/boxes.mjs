@@ -19,7 +19,6 @@ export function msgbox(text, yesNo, critical) {
   box.querySelector('.box-title').textContent = boxTitle;
   box.querySelector('.box-text').textContent = text;
   box.querySelector('.box-critical').hidden = !critical;
-  box.classList.toggle('critical', critical);
   const buttons = box.querySelector('.box-buttons');
   const answers = yesNo ? [['Yes', ANSWER.yes], ['No', ANSWER.no]] : [['OK', ANSWER.ok]];
   const escape = yesNo ? ANSWER.no : ANSWER.ok;
