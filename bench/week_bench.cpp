@@ -3,6 +3,7 @@
 #include <benchmark/benchmark.h>
 #include <unistd.h>
 
+#include <chrono>
 #include <cstdio>
 #include <filesystem>
 #include <string>
@@ -10,6 +11,7 @@
 
 #include "bench/measure.h"
 #include "core/scripted_port.h"
+#include "flow/clicks.h"
 #include "flow/office.h"
 #include "rules/files/save_file.h"
 #include "rules/music/chart.h"
@@ -209,6 +211,42 @@ void BM_QuietWeek(benchmark::State& state) {
     run_weeks<QuietBand>(state);
 }
 BENCHMARK(BM_QuietWeek);
+
+/// The weeks bench/web.mjs times in the web page, played natively through the same clicks: a
+/// game of the seed 20010901 started, a band of four hired in the office, 150 weeks untimed
+/// and the next 150 Next Week clicks timed, each with its boxes answered at once (No to the
+/// practice question) and its memos read afterwards, untimed. The time is a week's.
+void BM_PageWeek(benchmark::State& state) {
+    constexpr int kWeeks = 150;
+    for (auto _ : state) {
+        ScriptedPort port;
+        Game g{port};
+        load_main(g, 20010901);
+        port.queue_input("Bench");
+        port.queue_input("Bench");
+        click(g, "Form1", "New");
+        for (int i = 0; i < 4; ++i) click(g, "main", "hire");
+        const auto read_memos = [&] {
+            while (!g.memos.empty() && click(g, "messageForm", "command1") == ClickResult::Done) {
+            }
+        };
+        for (int week = 0; week < kWeeks; ++week) {
+            click(g, "main", "command6");
+            read_memos();
+        }
+        std::chrono::duration<double> took{};
+        for (int week = 0; week < kWeeks; ++week) {
+            const auto start = std::chrono::steady_clock::now();
+            click(g, "main", "command6");
+            took += std::chrono::steady_clock::now() - start;
+            read_memos();
+        }
+        if (g.ended) state.SkipWithError("the game ended before its weeks were played");
+        state.SetIterationTime(took.count() / kWeeks);
+    }
+    state.SetItemsProcessed(state.iterations());
+}
+BENCHMARK(BM_PageWeek)->UseManualTime()->Iterations(30)->Unit(benchmark::kMicrosecond);
 
 void BM_ChartRanking(benchmark::State& state) {
     SignedBand band;

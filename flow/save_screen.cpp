@@ -19,8 +19,7 @@ void show_savefrm(Game& g) {
     SaveForm& f = g.forms.savefrm;
     if (!f.loaded) load_savefrm(g);
     f.visible = true;
-    // Each slot tells what it holds, as the files stand now.
-    for (int i = 0; i < kSaveSlots; ++i) f.saveslot[i].tooltip = slot_details(*g.files, i);
+    tell_slots(g);
     // Something must always be chosen while the screen is up: the top slot comes first.
     bool chosen = false;
     for (const Control& c : f.saveslot) chosen = chosen || c.value;
@@ -35,6 +34,11 @@ int chosen_slot(const SaveForm& f) {
 }
 
 }  // namespace
+
+void tell_slots(Game& g) {
+    SaveForm& f = g.forms.savefrm;
+    for (int i = 0; i < kSaveSlots; ++i) f.saveslot[i].tooltip = slot_details(*g.files, i);
+}
 
 void command5(Game& g) {
     show_savefrm(g);

@@ -21,6 +21,10 @@ void reset_savefrm(Game& g);
 /// The screen's load: slots that hold a save show its band name; the top slot is chosen.
 void load_savefrm(Game& g);
 
+/// Each slot's option tells what its file holds now (its tool tip): the band, date and cash,
+/// or that it is empty or damaged.
+void tell_slots(Game& g);
+
 /// Closes the screen for good and brings the office up.
 void unload_savefrm(Game& g);
 

@@ -1,30 +1,40 @@
 // The game in a web page: the functions the page calls. The page starts the game, forwards
-// each click and double click, and after each one reads the whole form model back as JSON
-// and redraws. A click can wait inside a box; the page calls the click functions
-// asynchronously and lets no other call in until the click has returned.
+// each click and double click, and after each one reads the game back as JSON and redraws;
+// it asks apart for the key table, the key help, the diary, the week graph and the save
+// slots, each when it shows them. A click can wait inside a box; the page calls the click
+// functions asynchronously and lets no other call in until the click has returned.
 
 #include <emscripten.h>
 #include <unistd.h>
 
 #include <string>
+#include <vector>
 
 #include "app/driver/invocation.h"
+#include "app/web/kept_files.h"
+#include "app/web/slot_files.h"
 #include "app/web/state_json.h"
 #include "app/web/web_port.h"
 #include "core/game.h"
 #include "flow/clicks.h"
 #include "flow/office.h"
+#include "view/week_graph.h"
 
 namespace tourvane {
 namespace {
 
+bool lasting = false;  // the saves folder is the browser's storage
 WebPort port;
-WebFiles files;
+KeptFiles files(page_folder(), [] { return lasting ? keep_saves() : std::string(); });
 Game game(port);
+ScreenOrder screens;   // the screens the page has open, and which comes to the front
+DiarySenders senders;  // the diary's senders, for its filter
+DiaryFilter diary_filter;
 bool started = false;
-bool busy = false;   // a click is running, maybe waiting in a box
-std::string reply;   // the state last handed to the page
-std::string notice;  // what the player should know about the start
+bool busy = false;                   // a click is running, maybe waiting in a box
+std::string reply;                   // the JSON last handed to the page
+std::string notice;                  // what the player should know about the start
+std::vector<std::uint8_t> download;  // the file last handed to the page
 
 /// What a click returns when it was not let in.
 constexpr int kRefused = -1;
@@ -36,6 +46,11 @@ int run_click(Click&& click_it) {
     const int result = static_cast<int>(click_it());
     busy = false;
     return result;
+}
+
+const char* hand_over(std::string json) {
+    reply = std::move(json);
+    return reply.c_str();
 }
 
 }  // namespace
@@ -62,6 +77,7 @@ EMSCRIPTEN_KEEPALIVE int tourvane_start(const char* seed) {
     }
     const std::string storage = open_saves();
     const bool in_folder = ::chdir(kSavesFolder) == 0;
+    lasting = storage.empty() && in_folder;
     if (!storage.empty())
         notice = "Saves cannot be kept in this browser's storage (" + storage +
                  "): they last until the page is closed.";
@@ -90,10 +106,110 @@ EMSCRIPTEN_KEEPALIVE int tourvane_dblclick(const char* form, const char* control
     return run_click([&] { return dblclick(game, form, control, row); });
 }
 
-/// The whole form model as JSON (app/web/state_json.h); valid until the next call.
+/// The game as the page draws it (app/web/state_json.h state_json), with the screens to open,
+/// close and bring to the front since the last call. Each JSON text handed over is good until
+/// the next call of any of these functions.
 EMSCRIPTEN_KEEPALIVE const char* tourvane_state() {
-    reply = state_json(game);
-    return reply.c_str();
+    const ScreenChanges changes = screens.sync(game);
+    return hand_over(state_json(game, changes, screens.open()));
+}
+
+/// The fixed words of the boxes and of the windows beside the office.
+EMSCRIPTEN_KEEPALIVE const char* tourvane_words() {
+    return hand_over(words_json());
+}
+
+/// The key table.
+EMSCRIPTEN_KEEPALIVE const char* tourvane_keys() {
+    return hand_over(keys_json());
+}
+
+/// The key help, how to play and what Tourvane is.
+EMSCRIPTEN_KEEPALIVE const char* tourvane_help() {
+    return hand_over(help_json(game));
+}
+
+/// The diary of one sender (empty for everyone's) holding `words` (empty for all).
+EMSCRIPTEN_KEEPALIVE const char* tourvane_diary(const char* sender, const char* words) {
+    diary_filter.sender = sender ? sender : "";
+    diary_filter.search(words ? words : "");
+    return hand_over(diary_json(game, senders, diary_filter));
+}
+
+/// The week graph with `room` dates across and the point `picked` (-1 for the latest).
+EMSCRIPTEN_KEEPALIVE const char* tourvane_graph(int room, int picked) {
+    return hand_over(graph_json(game, room, picked));
+}
+
+/// The week graph's point `picked` alone (-1 for the latest), with its read-out and label.
+EMSCRIPTEN_KEEPALIVE const char* tourvane_graph_pick(int picked) {
+    return hand_over(graph_pick_json(game, picked));
+}
+
+/// The point a graph key (its action's name) picks from `current` among `count` points.
+EMSCRIPTEN_KEEPALIVE int tourvane_graph_move(const char* action, int current, int count) {
+    const std::optional<KeyAction> a = action_named(action ? action : "");
+    return a ? graph_move(*a, current, count) : current;
+}
+
+/// Where the picked point's label of `width` by `height` goes in the plot, clear of the
+/// point's marks at `x`, `y1` and `x`, `y2`: {"left":..,"top":..}.
+EMSCRIPTEN_KEEPALIVE const char* tourvane_place_label(int plot_left, int plot_top, int plot_width,
+                                                      int plot_height, double x, double y1,
+                                                      double y2, double width, double height,
+                                                      double gap) {
+    const Place at =
+        place_label({plot_left, plot_top, plot_width, plot_height}, x, y1, y2, width, height, gap);
+    Json j;
+    j.object().member("left", at.left).member("top", at.top).end();
+    return hand_over(j.take());
+}
+
+/// The four slots as the saves panel offers them.
+EMSCRIPTEN_KEEPALIVE const char* tourvane_slots() {
+    return hand_over(slots_json(files));
+}
+
+/// The bytes of file `part` of the slot's offer (0 the save, 1 its history), for the page to
+/// copy from memory at the address returned; 0 for none. `tourvane_file_size` says how many.
+EMSCRIPTEN_KEEPALIVE const std::uint8_t* tourvane_file(int slot, int part) {
+    download = offered_file(files, slot, part).value_or(std::vector<std::uint8_t>{});
+    return download.empty() ? nullptr : download.data();
+}
+
+EMSCRIPTEN_KEEPALIVE int tourvane_file_size() {
+    return static_cast<int>(download.size());
+}
+
+/// Takes the files the player picked (`count` of them) into a slot (app/web/slot_files.h
+/// upload_to_slot): the first two each with its name, its whole size and its bytes (at the
+/// address given, `read` of them; none for a file over the limit the page did not read).
+/// {"taken":..,"message":..}; refused while a click runs. It waits for the browser's storage,
+/// so the page calls it asynchronously, as a click.
+EMSCRIPTEN_KEEPALIVE const char* tourvane_upload(int slot, int count, const char* name_a,
+                                                 double size_a, const std::uint8_t* bytes_a,
+                                                 int read_a, const char* name_b, double size_b,
+                                                 const std::uint8_t* bytes_b, int read_b) {
+    UploadResult result{false, "The game is busy: try again once the box is answered."};
+    if (started && !busy) {
+        std::vector<PickedFile> picked;
+        const auto pick = [&](const char* name, double size, const std::uint8_t* bytes, int read) {
+            if (!name || !*name || !(size >= 0)) return;
+            picked.push_back({name,
+                              static_cast<std::size_t>(size),
+                              {bytes, bytes ? static_cast<std::size_t>(read) : 0}});
+        };
+        pick(name_a, size_a, bytes_a, read_a);
+        pick(name_b, size_b, bytes_b, read_b);
+        // Files past the two the page hands over are only counted, for the refusal.
+        while (static_cast<int>(picked.size()) < count) picked.push_back({});
+        busy = true;  // the storage is written meanwhile: no click gets in
+        result = upload_to_slot(game, slot, picked);
+        busy = false;
+    }
+    Json j;
+    j.object().member("taken", result.taken).member("message", result.message).end();
+    return hand_over(j.take());
 }
 
 }  // extern "C"

@@ -2,8 +2,11 @@
 
 #include <emscripten.h>
 
+#include <cstdio>
 #include <cstdlib>
+#include <cstring>
 #include <memory>
+#include <system_error>
 
 namespace tourvane {
 
@@ -27,17 +30,7 @@ EM_ASYNC_JS(char*, page_inputbox, (const char* prompt, const char* title), {
 });
 
 EM_ASYNC_JS(char*, mount_and_fill, (const char* folder), {
-    const path = UTF8ToString(folder);
-    let error = "";
-    try {
-        FS.mkdir(path);
-        FS.mount(IDBFS, {}, path);
-        error = await new Promise(function(resolve) {
-            FS.syncfs(true, function(e) { resolve(e ? String(e.message || e) : ""); });
-        });
-    } catch (e) {
-        error = String(e.message || e);
-    }
+    const error = await Module.tourvaneMountSaves(UTF8ToString(folder));  // saves_folder.js
     const size = lengthBytesUTF8(error) + 1;
     const copy = _malloc(size);
     stringToUTF8(error, copy, size);
@@ -66,7 +59,37 @@ std::string take(char* text) {
     return text ? std::string(text) : std::string();
 }
 
+class PageFolder : public FilePort {
+  public:
+    std::optional<std::vector<std::uint8_t>> read(const std::filesystem::path& path,
+                                                  std::size_t limit) override {
+        return read_file(path, limit);
+    }
+    bool replace(const std::filesystem::path& path, std::span<const std::uint8_t> bytes,
+                 std::string& reason) override {
+        std::filesystem::path fresh = path;
+        fresh += ".new";
+        std::FILE* f = std::fopen(fresh.c_str(), "wb");
+        bool ok = f && std::fwrite(bytes.data(), 1, bytes.size(), f) == bytes.size();
+        if (f && std::fclose(f) != 0) ok = false;
+        if (ok && std::rename(fresh.c_str(), path.c_str()) == 0) return true;
+        reason = std::strerror(errno);
+        std::error_code ec;
+        std::filesystem::remove(fresh, ec);
+        return false;
+    }
+    void remove(const std::filesystem::path& path) override {
+        std::error_code ec;
+        std::filesystem::remove(path, ec);
+    }
+};
+
 }  // namespace
+
+FilePort& page_folder() {
+    static PageFolder folder;
+    return folder;
+}
 
 Answer WebPort::msgbox(std::string_view text, Buttons buttons, bool critical) {
     const std::string shown(text);
@@ -78,25 +101,6 @@ Answer WebPort::msgbox(std::string_view text, Buttons buttons, bool critical) {
 std::string WebPort::inputbox(std::string_view prompt, std::string_view title) {
     const std::string asked(prompt), titled(title);
     return take(page_inputbox(asked.c_str(), titled.c_str()));
-}
-
-std::optional<std::vector<std::uint8_t>> WebFiles::read(const std::filesystem::path& path,
-                                                        std::size_t limit) {
-    return disk_files().read(path, limit);
-}
-
-bool WebFiles::replace(const std::filesystem::path& path, std::span<const std::uint8_t> bytes,
-                       std::string& reason) {
-    if (!disk_files().replace(path, bytes, reason)) return false;
-    const std::string error = keep_saves();
-    if (error.empty()) return true;
-    reason = "this browser's storage did not take it (" + error + ")";
-    return false;
-}
-
-void WebFiles::remove(const std::filesystem::path& path) {
-    disk_files().remove(path);
-    keep_saves();  // a history left behind names another save, and a load leaves it out
 }
 
 std::string open_saves() {

@@ -1,7 +1,8 @@
 #pragma once
 // The boxes and the save files of the web page. A box is a modal dialog of the page that the
 // rules wait on (the wasm stack is put aside while the page waits for the player); the save
-// files live in the browser's storage, mounted as a folder and written back after each save.
+// files live in the browser's storage, mounted as a folder and written back after each change
+// (app/web/kept_files.h).
 
 #include <string>
 #include <string_view>
@@ -19,18 +20,10 @@ class WebPort : public UiPort {
     std::string inputbox(std::string_view prompt, std::string_view title) override;
 };
 
-/// The disk of the page: the files of the folder the game runs in, each change written on to
-/// the browser's storage before the rules go on (a save is kept before "Game Saved" shows).
-class WebFiles : public FilePort {
-  public:
-    std::optional<std::vector<std::uint8_t>> read(const std::filesystem::path& path,
-                                                  std::size_t limit) override;
-    /// Writes the file, then the browser's storage; when the storage refuses it, the save has
-    /// failed and `reason` says so.
-    bool replace(const std::filesystem::path& path, std::span<const std::uint8_t> bytes,
-                 std::string& reason) override;
-    void remove(const std::filesystem::path& path) override;
-};
+/// The files of the folder the page runs in, held in the page's memory until `keep_saves`
+/// writes them on: written whole to a new file and renamed over the old, with no flush to a
+/// disk (a flush would write the browser's storage on each file by itself).
+FilePort& page_folder();
 
 /// The folder the saves live in.
 inline constexpr const char* kSavesFolder = "/saves";

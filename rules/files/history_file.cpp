@@ -68,8 +68,8 @@ std::vector<std::uint8_t> history_bytes(const Game& g, std::uint64_t mark) {
 
 std::optional<CareerHistory> parse_history(std::span<const std::uint8_t> bytes,
                                            std::uint64_t mark) {
+    if (!looks_like_history(bytes)) return std::nullopt;
     const bool first = starts_with(bytes, kFirstMagic);
-    if (!first && !starts_with(bytes, kMagic)) return std::nullopt;
     ByteReader in(bytes.subspan(kMagic.size()));
     if (in.number(8) != mark) return std::nullopt;
     CareerHistory h;
@@ -77,6 +77,10 @@ std::optional<CareerHistory> parse_history(std::span<const std::uint8_t> bytes,
     if (!first) h.tally = in.tally();  // a history of the first kind has no tally: it is empty
     if (!in.at_end()) return std::nullopt;
     return h;
+}
+
+bool looks_like_history(std::span<const std::uint8_t> bytes) {
+    return starts_with(bytes, kFirstMagic) || starts_with(bytes, kMagic);
 }
 
 void write_history(const Game& g, const std::filesystem::path& path,
@@ -91,8 +95,6 @@ void write_history(const Game& g, int slot, std::span<const std::uint8_t> save) 
 
 CareerHistory read_history(FilePort& files, const std::filesystem::path& path,
                            const Module1& saved) {
-    // Far beyond any career's history; the cap keeps a stray huge file out of memory.
-    constexpr std::size_t kMaxHistoryBytes = std::size_t{64} << 20;
     const auto bytes = files.read(path, kMaxHistoryBytes);
     if (!bytes) return {};
     return parse_history(*bytes, save_mark(save_bytes(saved))).value_or(CareerHistory{});

@@ -31,6 +31,13 @@ std::uint64_t save_mark(std::span<const std::uint8_t> save);
 /// The bytes of a history file for the game of `g`, bound to the save with mark `mark`.
 std::vector<std::uint8_t> history_bytes(const Game& g, std::uint64_t mark);
 
+/// The most bytes a history file is read to: far beyond any career's history, the cap keeps a
+/// stray huge file out of memory.
+inline constexpr std::size_t kMaxHistoryBytes = std::size_t{64} << 20;
+
+/// True when the bytes begin as a history file does (whole or not).
+bool looks_like_history(std::span<const std::uint8_t> bytes);
+
 /// The history the bytes hold, if they are a whole history file bound to the save with mark
 /// `mark`; nothing for damaged, foreign or another save's bytes.
 std::optional<CareerHistory> parse_history(std::span<const std::uint8_t> bytes, std::uint64_t mark);

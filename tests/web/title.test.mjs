@@ -26,6 +26,8 @@ test('the page says it is loading until the game is ready, then shows the title 
     assert.equal(await page.locator('#status').textContent(), '', 'nothing left to say');
     // The title's picture is the one drawn for it, at both densities.
     const picture = screen.locator('img.backdrop');
+    // The keys go to NEW GAME, the screen's first control.
+    assert.equal(await page.evaluate(() => document.activeElement.textContent), 'NEW GAME');
     assert.match(await picture.getAttribute('srcset'), /title\.png 1x, .*title@2x\.png 2x/);
     await picture.evaluate((img) => new Promise((resolve, reject) => {
       if (img.complete) (img.naturalWidth > 0 ? resolve : reject)();

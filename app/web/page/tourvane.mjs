@@ -1,478 +1,303 @@
-// The page of Tourvane: starts the game compiled to WebAssembly, draws every shown screen of
-// its form model as a panel of real page elements over the screen's picture, forwards each
-// click to the game and draws the model again. The boxes the rules wait on are modal dialogs.
-// The page holds no rule: what a click does, and every text, comes from the game.
+// The page of Tourvane: starts the game compiled to WebAssembly, shows every screen it has
+// open as a panel on the desk, forwards each click and key to it and draws it again. The
+// diary, the week graph, the help and the saves open beside the office. The page holds no
+// rule and no text of the game's: what a click does, and every word, comes from the game.
 
-import createTourvane from './tourvane.js';
+import { boxOpen, inputbox, msgbox, setBoxTitle } from './boxes.mjs';
+import { Desk } from './desk.mjs';
+import { DiaryPanel } from './diary.mjs';
+import { Game } from './game.mjs';
+import { GraphPanel } from './graph.mjs';
+import { HelpPanel } from './help.mjs';
+import { KeyTable, keyName, typing } from './keys.mjs';
+import { SavesPanel } from './saves.mjs';
+import { Screen } from './screens.mjs';
+import { hide as hideTip, setTip, startTips } from './tips.mjs';
 
-/// The picture under each screen (drawn at build time by the game's own drawing code) and the
-/// name the panel goes by.
-const SCREENS = {
-  Form1: { picture: 'title', title: 'Tourvane' },
-  main: { picture: 'office', title: 'Office' },
-  messageForm: { picture: 'memo', title: 'Message' },
-  gig: { picture: 'gig', title: 'Play a Gig' },
-  thenewspaper: { picture: 'newspaper', title: 'Gig Report' },
-  savefrm: { picture: 'files', title: 'Save and Load' },
-  Chart: { picture: 'chart', title: 'Music Chart' },
-};
-
-/// The screen whose labels take their text colour from the game.
-const MODEL_COLOURS = new Set(['Chart']);
-
-/// Labels at least this tall wrap their text over several lines, as on the desktop.
-const WRAP_HEIGHT = 30;
-
-/// The answers of a box, as the game counts them.
-const ANSWER = { ok: 0, yes: 1, no: 2 };
-
-const desk = document.getElementById('desk');
 const statusLine = document.getElementById('status');
+const announcer = document.getElementById('announce');
+const desk = new Desk(document.getElementById('desk'));
+
 let game = null;
-let busy = false;     // a click is running, maybe waiting in a box
+let words = null;
+let keys = null;
+let state = null;     // the game as last drawn
 let ended = false;
-const panels = new Map();  // form name -> { element, controls: Map(key -> view), shown, ... }
+let announced = '';   // the memo last announced
+const screens = new Map();  // form name -> Screen, built when first shown
+const sides = {};           // the panels beside the office, by place, built when first opened
+const makers = {};          // how each is built
+const opens = {};           // the bar's buttons that open them, by place
 
-function pictureSet(name) {
-  return `pictures/${name}.png 1x, pictures/${name}@2x.png 2x`;
+/// Tells the world the page has been drawn again: the tests and the benchmark wait on it.
+function drawn() {
+  document.dispatchEvent(new CustomEvent('tourvane:drawn'));
 }
 
-function controlKey(c) {
-  return c.index >= 0 ? `${c.name}(${c.index})` : c.name;
-}
+// ---- Clicks ----------------------------------------------------------------------------------
 
-function place(element, rect) {
-  element.style.left = `${rect.left}px`;
-  element.style.top = `${rect.top}px`;
-  element.style.width = `${rect.width}px`;
-  element.style.height = `${rect.height}px`;
-}
-
-/// What a hover tells: the whole caption where it is shown cut short, else the game's tool tip.
-function hover(element, c, cut) {
-  const tip = cut ? c.caption : c.tooltip;
-  if (tip) element.title = tip;
-  else element.removeAttribute('title');
-}
-
-function hex(colour) {
-  return `#${colour.toString(16).padStart(6, '0')}`;
-}
-
-// ---- Talking to the game --------------------------------------------------------------------
-
-/// Forwards a click or double click; nothing else gets in until it has returned.
-async function send(action, form, control, index) {
-  if (busy || ended || !game) return;
-  busy = true;
+/// Forwards a click or double click to the game; nothing else gets in until it has returned
+/// (its boxes answered), and then the page is drawn again.
+async function send(form, control, index = -1, double = false) {
+  if (!game || game.busy || ended) return;
+  hideTip();
   document.body.classList.add('busy');
   try {
-    await game.ccall(action, 'number', ['string', 'string', 'number'], [form, control, index],
-                     { async: true });
+    await game.click(form, control, index, double);
   } catch (error) {
     stopped(error);
     return;
   } finally {
-    busy = false;
     document.body.classList.remove('busy');
   }
   render();
 }
 
-function click(form, c, index = c.index) {
-  send('tourvane_click', form, c.name, index);
-}
-
-function dblclick(form, c, row) {
-  send('tourvane_dblclick', form, c.name, row);
+/// What the quit key does anywhere: clicks the quit control the game names.
+function quit() {
+  if (state) send(state.quit.form, state.quit.control);
 }
 
 function stopped(error) {
   ended = true;
-  desk.hidden = true;
+  desk.element.hidden = true;
   statusLine.textContent = `Tourvane stopped: ${error && error.message ? error.message : error}`;
   console.error(error);
 }
 
-// ---- Controls -------------------------------------------------------------------------------
+// ---- Drawing ---------------------------------------------------------------------------------
 
-function makeLabel(form, c) {
-  const element = document.createElement('div');
-  element.className = 'control label';
-  if (c.rect.height >= WRAP_HEIGHT) element.classList.add('wrap');
-  const text = document.createElement('span');
-  element.append(text);
-  return {
-    element,
-    update(c) {
-      if (text.textContent !== c.caption) text.textContent = c.caption;
-      // A caption cut short with "…" is whole a hover away.
-      hover(element, c,
-            text.scrollWidth > text.clientWidth || text.scrollHeight > text.clientHeight + 1);
-    },
-  };
-}
-
-function makeButton(form, c) {
-  const element = document.createElement('button');
-  element.type = 'button';
-  element.className = c.kind === 'Button' ? 'control button' : 'control click';
-  element.addEventListener('click', () => click(form, c));
-  return {
-    element,
-    update(c) {
-      if (element.textContent !== c.caption) element.textContent = c.caption;
-      hover(element, c, element.scrollWidth > element.clientWidth);
-    },
-  };
-}
-
-function makeHotSpot(form, c) {
-  const element = document.createElement('button');
-  element.type = 'button';
-  element.className = 'control hotspot';
-  element.addEventListener('click', () => click(form, c));
-  // Grey, it shows its part of the picture drawn with every button grey.
-  element.style.backgroundPosition = `${-c.rect.left}px ${-c.rect.top}px`;
-  return {
-    element,
-    update(c) {
-      element.setAttribute('aria-label', c.tooltip);
-      element.title = c.tooltip;
-    },
-  };
-}
-
-/// The options of one control array stand in one radio group.
-function makeOption(form, c, panel) {
-  let group = panel.groups.get(c.name);
-  if (!group) {
-    group = document.createElement('div');
-    group.className = 'radiogroup';
-    group.setAttribute('role', 'radiogroup');
-    group.setAttribute('aria-label', c.name);
-    panel.groups.set(c.name, group);
-  }
-  const element = document.createElement('label');
-  element.className = 'control option';
-  const input = document.createElement('input');
-  input.type = 'radio';
-  input.name = `${form}.${c.name}`;
-  const text = document.createElement('span');
-  element.append(input, text);
-  input.addEventListener('click', () => click(form, c));
-  return {
-    element,
-    group,
-    control: input,
-    update(c) {
-      if (text.textContent !== c.caption) text.textContent = c.caption;
-      hover(element, c, text.scrollWidth > text.clientWidth);
-    },
-    always(c) {
-      input.checked = c.value;  // the game decides what is chosen
-    },
-  };
-}
-
-function makeListBox(form, c) {
-  const element = document.createElement('div');
-  element.className = 'control listbox';
-  element.setAttribute('role', 'listbox');
-  element.setAttribute('aria-label', c.name);
-  element.tabIndex = 0;
-  const id = `${form}-${c.name}`;
-  element.id = id;
-  let model = c;
-  const rowOf = (event) => {
-    const row = event.target.closest('[role=option]');
-    return row ? Number(row.dataset.row) : -1;
-  };
-  element.addEventListener('click', (event) => {
-    // The second click of a double click is the double click's, as on the desktop.
-    if (event.detail > 1) return;
-    const row = rowOf(event);
-    if (row >= 0) click(form, model, row);
-  });
-  element.addEventListener('dblclick', (event) => dblclick(form, model, rowOf(event)));
-  element.addEventListener('keydown', (event) => {
-    const rows = model.rows.length;
-    const here = model.selected;
-    let to = -1;
-    switch (event.key) {
-      case 'ArrowUp': to = here < 0 ? 0 : here - 1; break;
-      case 'ArrowDown': to = here < 0 ? 0 : here + 1; break;
-      case 'Home': to = 0; break;
-      case 'End': to = rows - 1; break;
-      case 'Enter':
-        event.preventDefault();
-        if (here >= 0) dblclick(form, model, here);
-        return;
-      default: return;
-    }
-    event.preventDefault();
-    if (rows > 0 && to >= 0 && to < rows && to !== here) click(form, model, to);
-  });
-  return {
-    element,
-    update(c) {
-      model = c;
-      element.replaceChildren(...c.rows.map((text, row) => {
-        const option = document.createElement('div');
-        option.setAttribute('role', 'option');
-        option.id = `${id}-${row}`;
-        option.dataset.row = row;
-        option.textContent = text;
-        option.title = text;
-        return option;
-      }));
-    },
-    always(c) {
-      model = c;
-      let chosen = null;
-      element.querySelectorAll('[role=option]').forEach((option, row) => {
-        const selected = row === c.selected;
-        option.setAttribute('aria-selected', selected ? 'true' : 'false');
-        if (selected) chosen = option;
-      });
-      if (chosen) {
-        element.setAttribute('aria-activedescendant', chosen.id);
-        chosen.scrollIntoView({ block: 'nearest' });
-      } else {
-        element.removeAttribute('aria-activedescendant');
-      }
-    },
-  };
-}
-
-function makeComboBox(form, c) {
-  const element = document.createElement('select');
-  element.className = 'control combo';
-  element.setAttribute('aria-label', c.name);
-  let model = c;
-  element.addEventListener('change', () => click(form, model, element.selectedIndex));
-  return {
-    element,
-    update(c) {
-      model = c;
-      element.replaceChildren(...c.rows.map((text) => {
-        const option = document.createElement('option');
-        option.textContent = text;
-        return option;
-      }));
-    },
-    always(c) {
-      model = c;
-      element.selectedIndex = c.selected < c.rows.length ? c.selected : -1;
-    },
-  };
-}
-
-const MAKERS = {
-  Label: makeLabel,
-  ClickLabel: makeButton,
-  Button: makeButton,
-  HotSpot: makeHotSpot,
-  Option: makeOption,
-  ListBox: makeListBox,
-  ComboBox: makeComboBox,
-};
-
-/// Copies one control of the model into its element, touching only what changed.
-function refresh(form, view, c) {
-  const last = view.last;
-  const same = last && last.caption === c.caption && last.tooltip === c.tooltip &&
-      last.enabled === c.enabled && last.visible === c.visible && last.color === c.color &&
-      last.rule_colour === c.rule_colour && JSON.stringify(last.rows) === JSON.stringify(c.rows);
-  if (!same) {
-    const { element } = view;
-    element.hidden = !c.visible;
-    const target = view.control || element;
-    if ('disabled' in target) target.disabled = !c.enabled;
-    element.classList.toggle('disabled', !c.enabled);
-    if (c.kind === 'ListBox') element.setAttribute('aria-disabled', c.enabled ? 'false' : 'true');
-    if (c.rule_colour || (MODEL_COLOURS.has(form) && c.kind === 'Label'))
-      element.style.color = hex(c.color);
-    view.update(c);
-    view.last = c;
-  }
-  if (view.always) view.always(c);
-}
-
-// ---- Screens --------------------------------------------------------------------------------
-
-function makePanel(f) {
-  const screen = SCREENS[f.name] || { picture: null, title: f.name };
-  const element = document.createElement('section');
-  element.className = 'screen';
-  element.id = `screen-${f.name}`;
-  element.dataset.form = f.name;
-  element.setAttribute('aria-label', screen.title);
-  element.style.width = `${f.width}px`;
-  element.style.height = `${f.height}px`;
-  if (screen.picture) {
-    const picture = document.createElement('img');
-    picture.className = 'backdrop';
-    picture.alt = '';
-    picture.src = `pictures/${screen.picture}.png`;
-    picture.srcset = pictureSet(screen.picture);
-    picture.width = f.width;
-    picture.height = f.height;
-    picture.draggable = false;
-    element.append(picture);
-  }
-  const panel = { element, views: new Map(), groups: new Map(), shown: false, forward: 0 };
-  for (const c of f.controls) {
-    const view = MAKERS[c.kind](f.name, c, panel);
-    view.element.dataset.control = c.name;
-    if (c.index >= 0) view.element.dataset.index = c.index;
-    place(view.element, c.rect);
-    (view.group || element).append(view.element);
-    if (view.group && !view.group.parentNode) element.append(view.group);
-    panel.views.set(controlKey(c), view);
-  }
-  panel.forward = f.forward_requests;
-  desk.append(element);
-  // The panels stand in the order of the game's screens.
-  const order = Object.keys(SCREENS);
-  [...desk.children]
-      .sort((a, b) => order.indexOf(a.dataset.form) - order.indexOf(b.dataset.form))
-      .forEach((child) => desk.append(child));
-  return panel;
-}
-
-/// Gives the keyboard to the first control of a screen that has just opened.
-function focusFirst(panel) {
-  const first = [...panel.element.querySelectorAll('button, input, select, [tabindex="0"]')]
-      .find((e) => !e.disabled && !e.closest('[hidden]'));
-  if (first) first.focus();
-}
-
-/// Draws the game's model: every loaded and visible screen, with its controls as they stand.
+/// Draws the game as it stands: its screens, which of them are open and in front, the memo's
+/// announcement, and the panels beside the office.
 function render() {
   if (!game || ended) return;
-  const state = JSON.parse(game.ccall('tourvane_state', 'string', [], []));
-  if (state.ended) {
-    ended = true;
-    desk.hidden = true;
-    statusLine.textContent = '';
-    const end = document.getElementById('ended');
-    end.hidden = false;
-    document.getElementById('again').focus();
+  const s = game.state();
+  state = s;
+  if (s.ended) {
+    showEnded();
     return;
   }
-  const opened = [];
-  for (const f of state.forms) {
-    const wanted = f.loaded && f.visible;
-    let panel = panels.get(f.name);
-    if (!panel && !wanted) continue;
-    if (!panel) {
-      panel = makePanel(f);
-      panels.set(f.name, panel);
+  const open = new Set(s.screens.open);
+  for (const form of s.forms) {
+    let screen = screens.get(form.name);
+    if (!screen && !open.has(form.name)) continue;
+    if (!screen) {
+      screen = new Screen(form, { send, closeName: words.close_button });
+      screens.set(form.name, screen);
+      if (form.name === 'messageForm') desk.setMemo(screen);
     }
-    panel.element.hidden = !wanted;
-    if (!wanted) {
-      panel.shown = false;
-      continue;
-    }
-    for (const c of f.controls) refresh(f.name, panel.views.get(controlKey(c)), c);
-    // A screen that takes no clicks (the office behind a memo) takes no keys either.
-    panel.element.inert = !f.enabled;
-    panel.element.classList.toggle('held', !f.enabled);
-    if (!panel.shown) opened.push(panel);
-    else if (f.forward_requests !== panel.forward) panel.element.scrollIntoView({ block: 'nearest' });
-    panel.forward = f.forward_requests;
-    panel.shown = true;
+    if (open.has(form.name)) screen.update(form);
   }
-  const front = opened.filter((p) => !p.element.inert).pop();
-  if (front) focusFirst(front);
+  for (const name of s.screens.closed) desk.remove(screens.get(name));
+  for (const name of s.screens.opened) {
+    desk.add(screens.get(name));
+    screens.get(name).fit();
+  }
+  desk.layMemo(screens.get('main'));
+
+  // The save screen brings the saves beside it, and takes them away again.
+  if (s.screens.opened.includes('savefrm') && !isOpen('saves')) {
+    openSide(side('saves'), false);
+    sides.saves.auto = true;
+  } else if (s.screens.closed.includes('savefrm') && isOpen('saves') && sides.saves.auto) {
+    closeSide(sides.saves, false);
+  }
+
+  const front = screens.get(s.screens.front);
+  if (front) desk.front(front, s.screens.opened.includes(s.screens.front));
   else if (!document.activeElement || document.activeElement === document.body ||
-           document.activeElement.closest('[hidden], [inert]')) {
-    const open = [...panels.values()].filter((p) => p.shown && !p.element.inert).pop();
-    if (open) focusFirst(open);
+           document.activeElement.closest('[hidden], [inert]'))
+    desk.front(desk.latest());
+
+  announce(s.memo, s.memos);
+  for (const panel of Object.values(sides)) if (panel.open) panel.refresh();
+  showBar();
+  drawn();
+}
+
+/// Says each memo as it comes up, as the desktop announces it.
+function announce(memo, waiting) {
+  if (!memo) {
+    announced = '';
+    return;
+  }
+  const said = `${memo.name}\n${memo.text}\n${waiting}`;
+  if (said === announced) return;
+  announced = said;
+  announcer.textContent = '';
+  // A fresh text in the live region is what a screen reader says.
+  setTimeout(() => { announcer.textContent = `${memo.name}. ${memo.text}`; }, 50);
+}
+
+function showEnded() {
+  ended = true;
+  desk.element.hidden = true;
+  document.getElementById('bar-buttons').hidden = true;
+  statusLine.textContent = '';
+  announcer.textContent = '';
+  const end = document.getElementById('ended');
+  end.hidden = false;
+  document.getElementById('again').focus();
+  drawn();
+}
+
+// ---- The panels beside the office --------------------------------------------------------------
+
+/// Opens a panel beside what is on the desk, and gives it the keys unless `quietly`.
+function openSide(panel, keys = true) {
+  if (!panel.open) {
+    panel.auto = false;
+    desk.add(panel);
+    panel.opened();
+  }
+  if (keys) desk.front(panel, true);
+  showBar();
+}
+
+/// Closes a panel; the keys go back to the office, else to the latest panel open.
+function closeSide(panel, keys = true) {
+  const had = desk.frontPanel === panel || panel.element.contains(document.activeElement);
+  desk.remove(panel);
+  if (keys || had) {
+    const office = screens.get('main');
+    desk.front(office && office.open && !office.element.inert ? office : desk.latest());
+  }
+  showBar();
+}
+
+/// A panel beside the office by its place, built the first time it is wanted.
+function side(place) {
+  if (!sides[place]) {
+    sides[place] = makers[place]();
+    sides[place].onClose = (p) => closeSide(p);
+  }
+  return sides[place];
+}
+
+const isOpen = (place) => Boolean(sides[place] && sides[place].open);
+
+/// The panels the office opens with its keys, and the saves, from anywhere; and the bar's
+/// buttons that open them.
+function buildSides() {
+  const close = words.close_button;
+  makers.diary = () => new DiaryPanel(game, words, close);
+  makers.graph = () => new GraphPanel(game, words, close, keys, keyName);
+  makers.help = () => new HelpPanel(game, words, close);
+  makers.saves = () => new SavesPanel(game, words, close, () => render());
+
+  // The bar's buttons: the office's windows as its keys open them, and the saves.
+  const bar = document.getElementById('bar-buttons');
+  const made = [['saves', words.saves.title, null], ['diary', words.diary.title, 'OpenDiary'],
+                ['graph', words.graph.title, 'OpenGraph'], ['help', words.help.title, 'OpenHelp']];
+  for (const [place, title, action] of made) {
+    const button = document.createElement('button');
+    button.type = 'button';
+    button.textContent = title;
+    button.setAttribute('aria-pressed', 'false');
+    if (action) {
+      button.setAttribute('aria-keyshortcuts', keys.shortcut('main', action));
+      const help = keys.help('main', action);
+      setTip(button, () => `${help} (${keys.bound('main', [action])[0].keys.join(', ')})`);
+    } else {
+      setTip(button, () => words.saves.about);
+    }
+    button.addEventListener('click', () => {
+      if (button.getAttribute('aria-disabled') === 'true') return;
+      if (isOpen(place)) closeSide(sides[place]);
+      else openSide(side(place));
+    });
+    opens[place] = button;
+    bar.append(button);
   }
 }
 
-// ---- Boxes ----------------------------------------------------------------------------------
-
-/// A box titled "Tourvane" that waits for OK, or Yes or No: the game's MsgBox.
-function msgbox(text, yesNo, critical) {
-  const box = document.getElementById('msgbox');
-  box.querySelector('.box-text').textContent = text;
-  box.querySelector('.box-critical').hidden = !critical;
-  const buttons = box.querySelector('.box-buttons');
-  const answers = yesNo ? [['Yes', ANSWER.yes], ['No', ANSWER.no]] : [['OK', ANSWER.ok]];
-  const escape = yesNo ? ANSWER.no : ANSWER.ok;
-  return new Promise((resolve) => {
-    const done = (answer) => {
-      box.removeEventListener('cancel', onCancel);
-      box.close();
-      resolve(answer);
-    };
-    const onCancel = (event) => {
-      event.preventDefault();
-      done(escape);
-    };
-    buttons.replaceChildren(...answers.map(([caption, answer]) => {
-      const button = document.createElement('button');
-      button.type = 'button';
-      button.textContent = caption;
-      button.addEventListener('click', () => done(answer));
-      return button;
-    }));
-    box.addEventListener('cancel', onCancel);
-    box.showModal();
-    buttons.firstChild.focus();  // the default answer: OK or Yes
-  });
+/// The bar as the game stands: the office's windows only while the office is up (and grey
+/// while a memo holds it), the saves until the game ends.
+function showBar() {
+  const office = screens.get('main');
+  const shown = Boolean(office && office.open);
+  for (const [place, button] of Object.entries(opens)) {
+    const officeOnly = place !== 'saves';
+    button.hidden = officeOnly && !shown;
+    const grey = officeOnly && state && !state.office_usable && !isOpen(place);
+    if (grey) button.setAttribute('aria-disabled', 'true');
+    else button.removeAttribute('aria-disabled');
+    button.setAttribute('aria-pressed', isOpen(place) ? 'true' : 'false');
+  }
 }
 
-/// A box with a prompt and a line to type: the game's InputBox. Cancel gives no text.
-function inputbox(prompt, title) {
-  const box = document.getElementById('inputbox');
-  const form = box.querySelector('form');
-  const field = box.querySelector('input');
-  const cancel = box.querySelector('button[value=cancel]');
-  box.querySelector('.box-title').textContent = title;
-  box.querySelector('.box-text').textContent = prompt;
-  field.value = '';
-  return new Promise((resolve) => {
-    const done = (text) => {
-      form.removeEventListener('submit', onSubmit);
-      cancel.removeEventListener('click', onCancel);
-      box.removeEventListener('cancel', onCancel);
-      box.close();
-      resolve(text);
-    };
-    const onSubmit = (event) => {
-      event.preventDefault();
-      done(field.value);
-    };
-    const onCancel = (event) => {
-      event.preventDefault();
-      done('');
-    };
-    form.addEventListener('submit', onSubmit);
-    cancel.addEventListener('click', onCancel);
-    box.addEventListener('cancel', onCancel);
-    box.showModal();
-    field.focus();
-  });
+// ---- Keys ------------------------------------------------------------------------------------
+
+/// The keys of the key table, where the panel holding the keys stands, as the desktop binds
+/// them to its windows: a screen's own keys click its controls, the office's open the panels
+/// beside it, a panel's close it or move within it, and the quit key works everywhere.
+function onKey(event) {
+  const key = keyName(event);
+  // The browser's own keys that the page keeps for the game.
+  if (key === 'F1' || key === 'Control+Q') event.preventDefault();
+  if (!game || ended || game.busy || boxOpen() || typing(event)) return;
+  const panel = desk.current();
+  let row = null;
+  if (panel instanceof Screen) {
+    row = keys.find(panel.place, key, ['Click']);
+    if (row) clickKey(panel, row.control);
+    else if (panel.place === 'main') {
+      row = keys.find('main', key, ['OpenDiary', 'OpenGraph', 'OpenHelp']);
+      if (row && state.office_usable) {
+        openSide(side({ OpenDiary: 'diary', OpenGraph: 'graph', OpenHelp: 'help' }[row.action]));
+      }
+    }
+  } else if (panel) {
+    row = keys.find(panel.place, key, ['Close', ...panel.actions]);
+    if (row && row.action === 'Close') closeSide(panel);
+    else if (row) panel.act(row);
+  }
+  if (!row) {
+    row = keys.find('', key, ['Quit']);
+    if (row) quit();
+  }
+  if (row) event.preventDefault();
 }
 
-// ---- Start ----------------------------------------------------------------------------------
+/// A key's click goes through the control, so a grey or hidden one stays deaf as to the mouse.
+function clickKey(screen, id) {
+  const w = screen.widget(id);
+  if (!w || !w.model.visible || !w.model.enabled || screen.element.inert) return;
+  screen.click(id);
+}
+
+// ---- Start -----------------------------------------------------------------------------------
 
 async function start() {
+  startTips(document.getElementById('tip'));
   document.getElementById('again').addEventListener('click', () => location.reload());
+  document.addEventListener('keydown', onKey);
+  // A click on a screen held up by a memo brings the memo forward, as on the desktop.
+  desk.element.addEventListener('pointerdown', (event) => {
+    if (event.target !== desk.element) return;
+    for (const screen of screens.values()) {
+      const r = screen.element.getBoundingClientRect();
+      if (screen.element.inert && event.clientX >= r.left && event.clientX <= r.right &&
+          event.clientY >= r.top && event.clientY <= r.bottom)
+        desk.front(desk.memo);
+    }
+  });
+  performance.mark('tourvane:script');  // the marks time the start (bench/web.mjs)
   try {
-    game = await createTourvane({ tourvaneMsgBox: msgbox, tourvaneInputBox: inputbox });
+    game = await Game.load({ msgbox, inputbox });
+    performance.mark('tourvane:instantiated');
   } catch (error) {
     statusLine.textContent = `Tourvane could not be loaded: ${error && error.message || error}`;
     return;
   }
+  words = game.words();
+  keys = new KeyTable(game.keys());
+  setBoxTitle(words.box_title);
+  buildSides();
   const seed = new URLSearchParams(location.search).get('seed') || '';
-  const started = await game.ccall('tourvane_start', 'number', ['string'], [seed],
-                                   { async: true });
-  statusLine.textContent = game.ccall('tourvane_notice', 'string', [], []);
+  const started = await game.start(seed);
+  performance.mark('tourvane:started');
+  statusLine.textContent = game.notice();
   if (started === 2) {
     game = null;  // a seed that is no whole number: the game does not start
     return;
