@@ -1,5 +1,6 @@
 #include "flow/office.h"
 
+#include "core/diary.h"
 #include "core/ui.h"
 #include "core/world.h"
 #include "flow/save_screen.h"
@@ -81,6 +82,9 @@ void Form1_New(Game& g) {
     listupdate(g);
     g.forms.main.visible = true;
     g.forms.Form1.visible = false;
+    // The career's first stretch of play begins here, on its first day, whatever comes before
+    // its first week (a holiday, a lesson).
+    if (g.segments.empty()) begin_segment(g);
     g.career_begun = true;
 }
 

@@ -7,6 +7,7 @@
 #include "app/web/slot_files.h"
 #include "core/diary.h"
 #include "core/ui.h"
+#include "view/career.h"
 #include "view/controls.h"
 #include "view/help.h"
 #include "view/notes.h"
@@ -20,6 +21,8 @@ constexpr std::pair<KeyAction, const char*> kActions[] = {
     {KeyAction::OpenDiary, "OpenDiary"},
     {KeyAction::OpenGraph, "OpenGraph"},
     {KeyAction::OpenHelp, "OpenHelp"},
+    {KeyAction::OpenHall, "OpenHall"},
+    {KeyAction::CarryOn, "CarryOn"},
     {KeyAction::Close, "Close"},
     {KeyAction::Quit, "Quit"},
     {KeyAction::ChooseSender, "ChooseSender"},
@@ -226,6 +229,15 @@ std::string words_json() {
     j.member("how_to_play", kHowToPlay);
     j.end();
 
+    write_words(j, "summary", kSummaryWords);
+    j.end();
+    write_words(j, "hall", kHallWords);
+    j.member("list", kHallList).member("empty", kEmptyHall);
+    j.member("diary", kHallDiary).member("graph", kHallGraph);
+    j.member("diary_button", kDiaryWords.title).member("graph_button", kGraphWords.title);
+    j.end();
+    j.member("carry_on", kCarryOn);
+
     write_words(j, "saves", kSavesWords);
     j.member("hint", kSavesHint).member("download", kDownloadCaption);
     j.member("upload", kUploadCaption).member("upload_help", kUploadHelp);
@@ -349,6 +361,48 @@ std::string graph_pick_json(const Game& g, int picked) {
     Json j;
     j.object();
     write_pick(j, points, picked_point(static_cast<int>(points.size()), picked));
+    j.end();
+    return j.take();
+}
+
+std::string title_json(FilePort& files) {
+    const AutosavedCareer saved = autosaved_career(files);
+    Json j;
+    j.object()
+        .member("offer", carry_on_offer(saved))
+        .member("ready", saved.state == AutosavedCareer::State::Ready)
+        .member("hint", hall_hint())
+        .end();
+    return j.take();
+}
+
+namespace {
+
+void write_summary(Json& j, const CareerSummary& s) {
+    j.member("line", hall_line(s)).key("lines").array();
+    for (const SummaryLine& l : summary_lines(s))
+        j.object().member("label", l.label).member("value", l.value).end();
+    j.end();
+}
+
+}  // namespace
+
+std::string summary_json(const CareerSummary& s) {
+    Json j;
+    j.object();
+    write_summary(j, s);
+    j.end();
+    return j.take();
+}
+
+std::string hall_json(const std::vector<FameEntry>& hall) {
+    Json j;
+    j.array();
+    for (const FameEntry& e : hall) {
+        j.object();
+        write_summary(j, e.summary);
+        j.end();
+    }
     j.end();
     return j.take();
 }

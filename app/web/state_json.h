@@ -13,6 +13,7 @@
 
 #include "app/web/json.h"
 #include "core/game.h"
+#include "rules/files/hall_of_fame.h"
 #include "view/diary.h"
 #include "view/keys.h"
 #include "view/screens.h"
@@ -63,6 +64,16 @@ std::string graph_json(const Game& g, int room, int picked);
 /// The point `picked` of the week graph (-1 for the latest) alone: its index, read-out and
 /// label, for a pick that leaves the points as they were.
 std::string graph_pick_json(const Game& g, int picked);
+
+/// The title screen's lines: the offer to carry on with the automatic save's career (`offer`,
+/// empty for none; `ready` when it can be carried on with) and the hall of fame's key (`hint`).
+std::string title_json(FilePort& files);
+
+/// A career's summary: its line in the hall (`line`) and its figures (`lines`: label, value).
+std::string summary_json(const CareerSummary& s);
+
+/// The hall of fame, best first: each career's summary as summary_json writes it.
+std::string hall_json(const std::vector<FameEntry>& hall);
 
 /// The four slots as the saves panel offers them (app/web/slot_files.h).
 std::string slots_json(FilePort& files);

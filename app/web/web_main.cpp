@@ -16,8 +16,11 @@
 #include "app/web/state_json.h"
 #include "app/web/web_port.h"
 #include "core/game.h"
+#include "core/scripted_port.h"
+#include "flow/career.h"
 #include "flow/clicks.h"
 #include "flow/office.h"
+#include "rules/files/hall_of_fame.h"
 #include "view/week_graph.h"
 
 namespace tourvane {
@@ -46,6 +49,27 @@ int run_click(Click&& click_it) {
     const int result = static_cast<int>(click_it());
     busy = false;
     return result;
+}
+
+// The hall of fame as last read, and the career of it whose diary and graph are shown.
+std::vector<FameEntry> hall;
+ScriptedPort quiet;  // the career shown is only read, never played
+Game shown(quiet);
+int shown_career = -1;
+DiarySenders hall_senders;
+DiaryFilter hall_filter;
+bool in_hall = false;  // the finished career has gone into the hall
+
+/// Puts career `k` of the hall in `shown`, for its diary and week graph.
+void show_career(int k) {
+    if (k == shown_career) return;
+    shown_career = k;
+    const bool there = k >= 0 && k < static_cast<int>(hall.size());
+    shown.diary = there ? hall[static_cast<std::size_t>(k)].diary : std::vector<DiaryEntry>{};
+    shown.history = there ? hall[static_cast<std::size_t>(k)].history : std::vector<WeekSample>{};
+    shown.segments = there ? hall[static_cast<std::size_t>(k)].segments : std::vector<WeekSample>{};
+    shown.rec.gamedate = there ? hall[static_cast<std::size_t>(k)].summary.last_day : 0;
+    ++shown.history_loads;  // another career: the senders start afresh
 }
 
 const char* hand_over(std::string json) {
@@ -163,6 +187,67 @@ EMSCRIPTEN_KEEPALIVE const char* tourvane_place_label(int plot_left, int plot_to
     Json j;
     j.object().member("left", at.left).member("top", at.top).end();
     return hand_over(j.take());
+}
+
+/// The title screen's offer to carry on with the automatic save's career, and the hall's key.
+EMSCRIPTEN_KEEPALIVE const char* tourvane_title() {
+    return hand_over(title_json(files));
+}
+
+/// Carries on with the career the automatic save kept, as LOAD GAME does with a slot's (it
+/// says so in a box, so the page calls it asynchronously). 1 when it was carried on with, 0
+/// when not (a box said why), -1 when not let in.
+EMSCRIPTEN_KEEPALIVE int tourvane_carry_on() {
+    return run_click([] { return carry_on(game) ? 1 : 0; });
+}
+
+/// The memo that ends the game is up: the career goes into the hall of fame (once), and its
+/// summary comes back; null while the game goes on. It writes to the browser's storage, so the
+/// page calls it asynchronously.
+EMSCRIPTEN_KEEPALIVE const char* tourvane_summary() {
+    if (!started || !game.game_over) return hand_over("null");
+    if (!in_hall) {
+        add_to_hall(game);
+        in_hall = true;
+    }
+    return hand_over(summary_json(career_summary(game)));
+}
+
+/// The page is going away or the program has ended: a running career is kept in the automatic
+/// save, a finished one in the hall (flow/career.h keep_running_career). Asynchronous, as it
+/// writes to the browser's storage; refused while a click waits in a box.
+EMSCRIPTEN_KEEPALIVE int tourvane_keep() {
+    if (!started || busy) return -1;
+    busy = true;
+    const bool kept = keep_running_career(game);
+    busy = false;
+    return kept ? 1 : 0;
+}
+
+/// The hall of fame, read as it stands, best first.
+EMSCRIPTEN_KEEPALIVE const char* tourvane_hall() {
+    hall = read_hall(files);
+    shown_career = -1;
+    return hand_over(hall_json(hall));
+}
+
+/// The diary and the week graph of career `k` of the hall last read, as tourvane_diary and
+/// tourvane_graph give the running career's.
+EMSCRIPTEN_KEEPALIVE const char* tourvane_hall_diary(int k, const char* sender, const char* words) {
+    show_career(k);
+    hall_filter.sender = sender ? sender : "";
+    hall_filter.search(words ? words : "");
+    return hand_over(diary_json(shown, hall_senders, hall_filter));
+}
+
+EMSCRIPTEN_KEEPALIVE const char* tourvane_hall_graph(int k, int room, int picked) {
+    show_career(k);
+    return hand_over(graph_json(shown, room, picked));
+}
+
+EMSCRIPTEN_KEEPALIVE const char* tourvane_hall_graph_pick(int k, int picked) {
+    show_career(k);
+    return hand_over(graph_pick_json(shown, picked));
 }
 
 /// The four slots as the saves panel offers them.

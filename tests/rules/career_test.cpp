@@ -159,7 +159,7 @@ TEST_F(Career, SummaryOfACareerThatEndsInBankruptcy) {
               "The Wasps Sam 0 35 5");
     EXPECT_EQ(str(s.peak_cash, s.peak_cash_date - kStartDate, s.peak_popularity,
                   s.peak_popularity_date - kStartDate, s.singles, s.bankrupt),
-              "9000 14 40 0 2 1");
+              "9000 14 39 7 2 1");
     EXPECT_EQ(s.tally, g.tally);
     // Today counts too: the peak of a career that has only just begun is where it stands.
     TestGame t;

@@ -131,7 +131,8 @@ for (const scale of [1, 2]) {
         if (scale === 1) faults.push(...(await findings(page)).map((f) => `${name}: ${f}`));
       });
       assert.deepEqual(stops, ['title', 'prompt', 'box', 'files', 'office', 'memo', 'chart',
-                               'gig', 'report', 'diary', 'graph', 'help', 'saves']);
+                               'gig', 'report', 'diary', 'graph', 'help', 'saves', 'title-kept',
+                               'summary', 'hall']);
       assert.deepEqual(faults, []);
       assert.deepEqual(browser.failures, []);
     } finally {

@@ -1,11 +1,12 @@
 // A tour of every screen and panel of the page, stopping at each for a test to look at it: the
 // title screen, a box, the files, the office, a memo, the chart, the diary, the week graph,
-// the help, the saves, a gig's booking and its report. A seeded game gets there: a small
+// the help, the saves, a gig's booking and its report, the title offering the career kept on
+// quitting, the summary of the career at its end and the hall of fame. A seeded game gets there: a small
 // promotion, a full band and a song started every week until three are done.
 
 import {
   answerBoxes, answerInput, button, chart, diary, files, gig, graph, help, hireBand, inputBox,
-  memo, messageBox, office, openTitle, press, readMemos, report, saves, step, title,
+  memo, messageBox, office, openTitle, panel, press, readMemos, report, saves, step, title,
 } from './browser.mjs';
 
 export const TOUR_SEED = 4242;
@@ -76,6 +77,34 @@ export async function tour(browser, visit) {
   await press(page, button(office(page), 'Save Game'));
   await visit('saves', saves(page));
   await press(page, button(files(page), 'BACK'));
+
+  // Quit: the career is kept, offered on the next start and carried on with, and played to
+  // its end (holidays spend the cash, the small promotion the rest); then the hall holds it.
+  await page.keyboard.press('Control+Q');
+  await answerBoxes(page, () => 'Yes');
+  await page.getByRole('button', { name: 'Start again' }).click();
+  await button(title(page), 'Carry on').waitFor();
+  await visit('title-kept', title(page));
+  await act(page, button(title(page), 'Carry on'));
+  for (let trip = 0; trip < 12; ++trip) {
+    await press(page, button(office(page), 'Band Holiday'));
+    const asked = await answerBoxes(page, () => 'Yes');
+    await readMemos(page);
+    if (!asked.length) break;  // no money left for one
+  }
+  const career = panel(page, 'Career');
+  for (let week = 0; week < 10; ++week) {
+    await press(page, button(office(page), 'Next Week'));
+    await answerBoxes(page, () => 'No');
+    if (await memo(page).getByText(/out of a job/).count()) break;  // the memo that ends it
+    await readMemos(page);
+  }
+  await visit('summary', career);
+  await button(memo(page), 'OK').click();
+  await page.getByRole('button', { name: 'Start again' }).click();
+  await button(title(page), 'NEW GAME').waitFor();
+  await title(page).press('H');
+  await visit('hall', panel(page, 'Hall of Fame'));
 }
 
 /// Books the first open venue that takes the band, stopping at the booking and the report;

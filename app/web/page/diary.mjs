@@ -23,9 +23,10 @@ function cell(tag, text, className) {
 }
 
 export class DiaryPanel extends SidePanel {
-  constructor(game, words, close) {
+  /// `game` gives the diary (a career of the hall gives its own, placed at `place`).
+  constructor(game, words, close, place = 'diary') {
     const w = words.diary;
-    super({ place: 'diary', words: w, close, width: 660, height: 460 });
+    super({ place, keyPlace: 'diary', words: w, close, width: 660, height: 460 });
     this.game = game;
 
     const filters = document.createElement('div');

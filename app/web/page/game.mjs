@@ -56,6 +56,42 @@ export class Game {
     }
   }
 
+  /// An asynchronous call of the game's that may wait in a box or for the browser's storage;
+  /// no click gets in meanwhile. Resolves to its result, or `refused` when it was not let in.
+  async waiting(name, returns, refused) {
+    if (this.busy) return refused;
+    this.busy = true;
+    try {
+      return await this.module.ccall(name, returns, [], [], { async: true });
+    } finally {
+      this.busy = false;
+    }
+  }
+
+  /// Carries on with the career the automatic save kept: 1 done, 0 refused with a box.
+  carryOn() { return this.waiting('tourvane_carry_on', 'number', -1); }
+  /// The summary of the career that has just ended (it goes into the hall), or null.
+  async summary() { return JSON.parse(await this.waiting('tourvane_summary', 'string', 'null')); }
+  /// Keeps a running career in the automatic save (a finished one in the hall).
+  keep() { return this.waiting('tourvane_keep', 'number', -1); }
+
+  title() { return this.json('tourvane_title'); }
+  hall() { return this.json('tourvane_hall'); }
+
+  /// The diary and week graph of career `k` of the hall, in the shape of the running career's.
+  career(k) {
+    return {
+      diary: (sender, words) =>
+        this.json('tourvane_hall_diary', ['number', 'string', 'string'], [k(), sender, words]),
+      graph: (room, picked) =>
+        this.json('tourvane_hall_graph', ['number', 'number', 'number'], [k(), room, picked]),
+      graphPick: (picked) =>
+        this.json('tourvane_hall_graph_pick', ['number', 'number'], [k(), picked]),
+      graphMove: (...moved) => this.graphMove(...moved),
+      placeLabel: (...where) => this.placeLabel(...where),
+    };
+  }
+
   state() { return this.json('tourvane_state'); }
   words() { return this.json('tourvane_words'); }
   keys() { return this.json('tourvane_keys'); }

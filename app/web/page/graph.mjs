@@ -34,9 +34,10 @@ function draw(parent, tag, attributes, text) {
 const clamp = (v, low, high) => Math.min(Math.max(v, low), high);
 
 export class GraphPanel extends SidePanel {
-  constructor(game, words, close, keys, keyName) {
+  /// `game` gives the graph (a career of the hall gives its own, placed at `place`).
+  constructor(game, words, close, keys, keyName, place = 'graph') {
     const w = words.graph;
-    super({ place: 'graph', words: w, close, width: 720, height: 460 });
+    super({ place, keyPlace: 'graph', words: w, close, width: 720, height: 460 });
     this.game = game;
     this.words = w;
     this.keys = keys;

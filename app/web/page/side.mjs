@@ -7,8 +7,10 @@ import { Panel } from './desk.mjs';
 export class SidePanel extends Panel {
   /// `words` gives its title, the line under it and what its Close is called to a screen
   /// reader; `close` is the button's caption.
-  constructor({ place, words, close, width, height }) {
+  /// `keyPlace` is where the key table's keys for it work, its place unless told.
+  constructor({ place, keyPlace, words, close, width, height }) {
     super({ place, title: words.title, className: `side side-${place}` });
+    this.keyPlace = keyPlace || place;
     this.body.style.width = `${width}px`;
     this.body.style.height = `${height}px`;
     if (words.about) {

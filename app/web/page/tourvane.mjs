@@ -4,6 +4,7 @@
 // rule and no text of the game's: what a click does, and every word, comes from the game.
 
 import { boxOpen, inputbox, msgbox, setBoxTitle } from './boxes.mjs';
+import { HallPanel, SummaryPanel } from './career.mjs';
 import { Desk } from './desk.mjs';
 import { DiaryPanel } from './diary.mjs';
 import { Game } from './game.mjs';
@@ -24,6 +25,8 @@ let keys = null;
 let state = null;     // the game as last drawn
 let ended = false;
 let announced = '';   // the memo last announced
+let summarised = false;  // the career that ended has its summary on show
+let titleLines = null;   // the offer to carry on and the hall's key, over the title screen
 const screens = new Map();  // form name -> Screen, built when first shown
 const sides = {};           // the panels beside the office, by place, built when first opened
 const makers = {};          // how each is built
@@ -85,6 +88,7 @@ function render() {
       screen = new Screen(form, { send, closeName: words.close_button });
       screens.set(form.name, screen);
       if (form.name === 'messageForm') desk.setMemo(screen);
+      if (form.name === 'Form1') titleLines = showTitleLines(screen);
     }
     if (open.has(form.name)) screen.update(form);
   }
@@ -109,6 +113,7 @@ function render() {
            document.activeElement.closest('[hidden], [inert]'))
     desk.front(desk.latest());
 
+  if (s.game_over && !summarised) summarise();
   announce(s.memo, s.memos);
   for (const panel of Object.values(sides)) if (panel.open) panel.refresh();
   showBar();
@@ -131,6 +136,13 @@ function announce(memo, waiting) {
 
 function showEnded() {
   ended = true;
+  game.keep();  // the career is kept as the program ends: in the hall, or to carry on with
+  for (const place of ['hall', 'hall-diary', 'hall-graph'])
+    if (isOpen(place)) desk.remove(sides[place]);
+  if (summarised && sides.summary) {
+    // The story of the career stays in view on the ended page.
+    document.getElementById('ended').append(sides.summary.content);
+  }
   desk.element.hidden = true;
   document.getElementById('bar-buttons').hidden = true;
   statusLine.textContent = '';
@@ -139,6 +151,61 @@ function showEnded() {
   end.hidden = false;
   document.getElementById('again').focus();
   drawn();
+}
+
+// ---- A career's story ---------------------------------------------------------------------------
+
+/// The title screen's lines: the offer to carry on with the career the automatic save kept
+/// (with its button, when it can be), and the hall of fame's key, as a button too.
+function showTitleLines(screen) {
+  const t = game.title();
+  const lines = document.createElement('div');
+  lines.className = 'title-lines';
+  if (t.offer) {
+    const offer = document.createElement('div');
+    offer.className = 'offer';
+    const text = document.createElement('p');
+    text.textContent = t.offer;
+    offer.append(text);
+    if (t.ready) {
+      const button = document.createElement('button');
+      button.type = 'button';
+      button.textContent = words.carry_on;
+      button.setAttribute('aria-keyshortcuts', keys.shortcut('Form1', 'CarryOn'));
+      button.setAttribute('aria-describedby', (text.id = 'offer-text'));
+      button.addEventListener('click', carryOn);
+      offer.append(button);
+    }
+    lines.append(offer);
+  }
+  const hint = document.createElement('button');
+  hint.type = 'button';
+  hint.className = 'hall-hint';
+  hint.textContent = t.hint;
+  hint.setAttribute('aria-keyshortcuts', keys.shortcut('Form1', 'OpenHall'));
+  hint.addEventListener('click', () => openSide(side('hall')));
+  lines.append(hint);
+  screen.body.append(lines);
+  return lines;
+}
+
+/// Carries on with the automatic save's career, as LOAD GAME does with a slot's.
+async function carryOn() {
+  if (!game || game.busy || ended) return;
+  hideTip();
+  await game.carryOn();
+  render();
+}
+
+/// The memo that ends the game is up: the career goes into the hall, its summary beside it.
+async function summarise() {
+  summarised = true;
+  const summary = await game.summary();
+  if (!summary) return;
+  const panel = side('summary');
+  panel.show(summary);
+  openSide(panel, false);
+  desk.front(desk.memo);  // the memo keeps the keys: its OK ends the program
 }
 
 // ---- The panels beside the office --------------------------------------------------------------
@@ -184,6 +251,17 @@ function buildSides() {
   makers.graph = () => new GraphPanel(game, words, close, keys, keyName);
   makers.help = () => new HelpPanel(game, words, close);
   makers.saves = () => new SavesPanel(game, words, close, () => render());
+  makers.summary = () => new SummaryPanel(words, close);
+  makers.hall = () => {
+    const hall = new HallPanel(game, words, close, (place) => openSide(side(place)));
+    hall.onPick = () => {
+      for (const place of ['hall-diary', 'hall-graph']) if (isOpen(place)) sides[place].refresh();
+    };
+    return hall;
+  };
+  const career = game.career(() => sides.hall.picked);
+  makers['hall-diary'] = () => new DiaryPanel(career, words, close, 'hall-diary');
+  makers['hall-graph'] = () => new GraphPanel(career, words, close, keys, keyName, 'hall-graph');
 
   // The bar's buttons: the office's windows as its keys open them, and the saves.
   const bar = document.getElementById('bar-buttons');
@@ -241,14 +319,18 @@ function onKey(event) {
   if (panel instanceof Screen) {
     row = keys.find(panel.place, key, ['Click']);
     if (row) clickKey(panel, row.control);
-    else if (panel.place === 'main') {
+    else if (panel.place === 'Form1') {
+      row = keys.find('Form1', key, ['OpenHall', 'CarryOn']);
+      if (row && row.action === 'OpenHall') openSide(side('hall'));
+      else if (row && titleLines && titleLines.querySelector('.offer')) carryOn();
+    } else if (panel.place === 'main') {
       row = keys.find('main', key, ['OpenDiary', 'OpenGraph', 'OpenHelp']);
       if (row && state.office_usable) {
         openSide(side({ OpenDiary: 'diary', OpenGraph: 'graph', OpenHelp: 'help' }[row.action]));
       }
     }
   } else if (panel) {
-    row = keys.find(panel.place, key, ['Close', ...panel.actions]);
+    row = keys.find(panel.keyPlace, key, ['Close', ...panel.actions]);
     if (row && row.action === 'Close') closeSide(panel);
     else if (row) panel.act(row);
   }
@@ -303,6 +385,10 @@ async function start() {
     return;
   }
   render();
+  // Leaving the page keeps the running career, as quitting the desktop game does.
+  document.addEventListener('visibilitychange', () => {
+    if (document.visibilityState === 'hidden' && game && !ended && !game.busy) game.keep();
+  });
 }
 
 start();
