@@ -8,6 +8,7 @@
 #include <string>
 #include <string_view>
 
+#include "app/driver/json_text.h"
 #include "core/fields.h"
 #include "core/scripted_port.h"
 
@@ -45,12 +46,6 @@ void store_field(const Field& f, int index, std::string_view text);
 
 /// A script word as an error message shows it: valid UTF-8, at most a few dozen characters.
 std::string shown_word(std::string_view word);
-
-/// Writes `text` as a JSON string literal.
-std::string json_quote(std::string_view text);
-
-/// Appends `json_quote(text)` to `out`.
-void append_json_quoted(std::string& out, std::string_view text);
 
 /// The transcript line of a box, prompt, memo or misfit answer.
 std::string transcript_line(const Shown& shown);

@@ -3,41 +3,9 @@
 #include <cmath>
 #include <cstdio>
 
-namespace tourvane {
+#include "app/driver/json_text.h"
 
-void append_json_string(std::string& out, std::string_view text) {
-    static constexpr char kHex[] = "0123456789abcdef";
-    out += '"';
-    for (char ch : text) {
-        const auto byte = static_cast<unsigned char>(ch);
-        switch (ch) {
-            case '"':
-                out += "\\\"";
-                break;
-            case '\\':
-                out += "\\\\";
-                break;
-            case '\n':
-                out += "\\n";
-                break;
-            case '\r':
-                out += "\\r";
-                break;
-            case '\t':
-                out += "\\t";
-                break;
-            default:
-                if (byte < 0x20) {
-                    out += "\\u00";
-                    out += kHex[byte >> 4];
-                    out += kHex[byte & 0xF];
-                } else {
-                    out += ch;
-                }
-        }
-    }
-    out += '"';
-}
+namespace tourvane {
 
 void Json::next() {
     if (after_key_) {
@@ -74,7 +42,7 @@ Json& Json::end() {
 
 Json& Json::key(std::string_view name) {
     next();
-    append_json_string(out_, name);
+    append_json_quoted(out_, name);
     out_ += ':';
     after_key_ = true;
     return *this;
@@ -82,7 +50,7 @@ Json& Json::key(std::string_view name) {
 
 Json& Json::value(std::string_view text) {
     next();
-    append_json_string(out_, text);
+    append_json_quoted(out_, text);
     return *this;
 }
 

@@ -9,10 +9,6 @@
 
 namespace tourvane {
 
-/// Appends `text` as a JSON string, quotes included. UTF-8 passes through as it stands; the
-/// quote, the backslash and the control characters are escaped.
-void append_json_string(std::string& out, std::string_view text);
-
 class Json {
   public:
     /// Opens an object or an array as the next value.
