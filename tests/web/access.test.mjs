@@ -7,7 +7,7 @@ import assert from 'node:assert/strict';
 import { mkdir } from 'node:fs/promises';
 import path from 'node:path';
 import { createRequire } from 'node:module';
-import { openBrowser, siteDir } from './browser.mjs';
+import { inBrowser, siteDir } from './browser.mjs';
 import { tour } from './tour.mjs';
 
 const shots = path.join(siteDir, '..', 'screenshots');
@@ -111,32 +111,25 @@ async function contrastFaults(page) {
 
 for (const scale of [1, 2]) {
   test(`every screen at ${scale}x: whole in the window, pictured, and clean for axe`,
-       { timeout: 280000 }, async () => {
-    const browser = await openBrowser({ scale });
-    const { page } = browser;
-    await mkdir(shots, { recursive: true });
+       { timeout: 280000 }, () => inBrowser({ scale }, async (page, browser) => {
+await mkdir(shots, { recursive: true });
     const stops = [];
     const faults = [];
-    try {
-      await tour(browser, async (name, shown) => {
-        stops.push(name);
-        await shown.waitFor();
-        // Pictures and fonts in place before anything is judged.
-        await page.waitForFunction(() => [...document.images].every((i) => i.complete));
-        await page.evaluate(() => document.fonts.ready);
-        faults.push(...(await layoutFaults(page)).map((f) => `${name}: ${f}`));
-        faults.push(...(await contrastFaults(page)).map((f) => `${name}: ${f}`));
-        await shown.scrollIntoViewIfNeeded();
-        await page.screenshot({ path: path.join(shots, `${name}@${scale}x.png`) });
-        if (scale === 1) faults.push(...(await findings(page)).map((f) => `${name}: ${f}`));
-      });
-      assert.deepEqual(stops, ['title', 'prompt', 'box', 'files', 'office', 'memo', 'chart',
-                               'gig', 'report', 'diary', 'graph', 'help', 'saves', 'title-kept',
-                               'summary', 'hall']);
-      assert.deepEqual(faults, []);
-      assert.deepEqual(browser.failures, []);
-    } finally {
-      await browser.done();
-    }
-  });
+        await tour(browser, async (name, shown) => {
+      stops.push(name);
+      await shown.waitFor();
+      // Pictures and fonts in place before anything is judged.
+      await page.waitForFunction(() => [...document.images].every((i) => i.complete));
+      await page.evaluate(() => document.fonts.ready);
+      faults.push(...(await layoutFaults(page)).map((f) => `${name}: ${f}`));
+      faults.push(...(await contrastFaults(page)).map((f) => `${name}: ${f}`));
+      await shown.scrollIntoViewIfNeeded();
+      await page.screenshot({ path: path.join(shots, `${name}@${scale}x.png`) });
+      if (scale === 1) faults.push(...(await findings(page)).map((f) => `${name}: ${f}`));
+    });
+    assert.deepEqual(stops, ['title', 'prompt', 'box', 'files', 'office', 'memo', 'chart',
+                             'gig', 'report', 'diary', 'graph', 'help', 'saves', 'title-kept',
+                             'summary', 'hall']);
+    assert.deepEqual(faults, []);
+  }));
 }

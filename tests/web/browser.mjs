@@ -4,6 +4,7 @@
 // that every test makes: a click that waits until the page is drawn again, the boxes answered,
 // the memos read.
 
+import assert from 'node:assert/strict';
 import { createServer } from 'node:http';
 import { mkdtemp, readFile, rm, stat } from 'node:fs/promises';
 import { tmpdir } from 'node:os';
@@ -109,6 +110,19 @@ export async function openBrowser({ scale = 1, extra = {} } = {}) {
       await rm(profile, { recursive: true, force: true });
     },
   };
+}
+
+/// Runs `play(page, browser)` in a fresh browser opened with `options` (as openBrowser takes
+/// them), then checks that the page raised no error and asked for nothing it lacks, and
+/// closes it all.
+export async function inBrowser(options, play) {
+  const browser = await openBrowser(options);
+  try {
+    await play(browser.page, browser);
+    assert.deepEqual(browser.failures, []);
+  } finally {
+    await browser.done();
+  }
 }
 
 /// Opens the page (with `?seed=N` when a seed is given) and waits for the title screen.

@@ -6,8 +6,6 @@
 
 #include <gtest/gtest.h>
 
-#include <map>
-
 #include "app/web/kept_files.h"
 #include "core/diary.h"
 #include "rules/files/save_file.h"
@@ -15,24 +13,6 @@
 
 namespace tourvane::testing {
 namespace {
-
-/// Files in memory, as the page's folder holds them.
-class MemoryFiles : public FilePort {
-  public:
-    std::map<std::filesystem::path, Bytes> files;
-
-    std::optional<Bytes> read(const std::filesystem::path& path, std::size_t limit) override {
-        const auto it = files.find(path);
-        if (it == files.end()) return std::nullopt;
-        return Bytes(it->second.begin(), it->second.begin() + std::min(limit, it->second.size()));
-    }
-    bool replace(const std::filesystem::path& path, std::span<const std::uint8_t> bytes,
-                 std::string&) override {
-        files[path].assign(bytes.begin(), bytes.end());
-        return true;
-    }
-    void remove(const std::filesystem::path& path) override { files.erase(path); }
-};
 
 /// A game in the office with its files in memory, kept through a storage that can refuse.
 struct SlotGame {
